@@ -1,0 +1,24 @@
+// What other families need of string lists beyond the exported operations: whole elements without a copy.
+#pragma once
+
+#include "frame/text.h"
+#include "zu_StrList.h"
+
+namespace zu {
+
+// An element of a string list.
+struct StrListNode
+{
+    zu_wchar* string;
+};
+
+inline WideView stringOf(const LnkNode* node)
+{
+    return node == nullptr || node->data == nullptr ? WideView()
+                                                    : text::view(static_cast<const StrListNode*>(node->data)->string);
+}
+
+// Appends a copy of text, as zu_StrList_insEnd; text need not be terminated.
+bool appendString(StrList* list, WideView text);
+
+} // namespace zu

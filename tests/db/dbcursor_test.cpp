@@ -1,0 +1,150 @@
+#include "support/memory.h"
+#include "support/wide.h"
+#include "zu_DbCursor.h"
+
+#include <memory>
+
+namespace {
+
+using namespace zutest;
+
+struct CursorDeleter
+{
+    void operator()(DbCursor* cursor) const { zu_DbCursor_destroy(cursor); }
+};
+using Cursor = std::unique_ptr<DbCursor, CursorDeleter>;
+
+DbFldList* fieldsOf(WideLiteral value)
+{
+    return zu_DbFldList_create(W("V"), value, static_cast<const zu_wchar*>(nullptr));
+}
+
+Cursor cursorOf(std::initializer_list<WideLiteral> names)
+{
+    Cursor cursor(zu_DbCursor_create());
+    for (const WideLiteral name : names)
+        EXPECT_EQ(zu_DbCursor_insEnd(cursor.get(), name, fieldsOf(name)), 1);
+    return cursor;
+}
+
+Wide valueIn(DbFldList* fields)
+{
+    return str(zu_DbFldList_getFldVal(fields, W("V")));
+}
+
+TEST(DbCursor, rowsAndPositions)
+{
+    const Cursor cursor = cursorOf({W("b"), W("c")});
+    EXPECT_EQ(zu_DbCursor_insStart(cursor.get(), W("a"), fieldsOf(W("first"))), 1);
+    EXPECT_EQ(zu_DbCursor_length(cursor.get()), 3u);
+    EXPECT_EQ(zu_DbCursor_eol(cursor.get()), 1);
+    EXPECT_EQ(zu_DbCursor_start(cursor.get()), 1);
+    EXPECT_EQ(str(zu_DbCursor_getCurrTblName(cursor.get())), W("a"));
+    EXPECT_EQ(valueIn(zu_DbCursor_getCurrFldList(cursor.get())), W("first"));
+    EXPECT_EQ(zu_DbCursor_next(cursor.get()), 1);
+    EXPECT_EQ(str(zu_DbCursor_getNthTblName(cursor.get(), 2)), W("c"));
+    EXPECT_EQ(valueIn(zu_DbCursor_getNthFldList(cursor.get(), 1)), W("b"));
+    EXPECT_EQ(zu_LnkList_getPos(cursor.get()), 1);
+    EXPECT_EQ(str(zu_DbCursor_getNth(cursor.get(), 0)->tableName), W("a"));
+
+    // Past the end the names come again, each reader's own; the lists do not.
+    EXPECT_EQ(zu_DbCursor_getNthFldList(cursor.get(), 3), nullptr);
+    EXPECT_EQ(str(zu_DbCursor_getNthTblName(cursor.get(), 3)), W("c"));
+    EXPECT_EQ(str(zu_DbCursor_getCurrTblName(cursor.get())), W("a"));
+    EXPECT_EQ(zu_DbCursor_getCurrFldList(cursor.get()), nullptr);
+
+    EXPECT_EQ(zu_DbCursor_delNth(cursor.get(), 1), 1);
+    EXPECT_EQ(str(zu_DbCursor_getCurrTblName(cursor.get())), W("c"));
+    EXPECT_EQ(zu_DbCursor_delNth(cursor.get(), 2), 0);
+    zu_DbCursor_start(cursor.get());
+    EXPECT_EQ(zu_DbCursor_delCurr(cursor.get()), 1);
+    EXPECT_EQ(zu_DbCursor_length(cursor.get()), 1u);
+}
+
+TEST(DbCursor, replacingTheCurrentRow)
+{
+    const Cursor cursor = cursorOf({W("a")});
+    DbFldList* const fields = fieldsOf(W("new"));
+    EXPECT_EQ(zu_DbCursor_modCurr(cursor.get(), W("b"), fields), 0) << "no current row";
+    zu_DbCursor_start(cursor.get());
+    EXPECT_EQ(zu_DbCursor_modCurr(cursor.get(), W("b"), fields), 1);
+    EXPECT_EQ(zu_DbCursor_getCurrFldList(cursor.get()), fields) << "taken over";
+    // A row that gets its own list again is only renamed.
+    EXPECT_EQ(zu_DbCursor_modCurr(cursor.get(), W("c"), fields), 1);
+    EXPECT_EQ(str(zu_DbCursor_getCurrTblName(cursor.get())), W("c"));
+    EXPECT_EQ(valueIn(fields), W("new"));
+}
+
+TEST(DbCursor, copiesHoldTheCompleteRows)
+{
+    const Cursor cursor = cursorOf({W("a"), W("b")});
+    zu_DbCursor_insStart(cursor.get(), W("without fields"), nullptr);
+    zu_DbCursor_insEnd(cursor.get(), nullptr, fieldsOf(W("without a name")));
+    zu_DbCursor_start(cursor.get());
+    const Cursor copy(zu_DbCursor_copy(cursor.get()));
+    EXPECT_EQ(zu_LnkList_getPos(cursor.get()), 0);
+    ASSERT_EQ(zu_DbCursor_length(copy.get()), 2u);
+    EXPECT_EQ(str(zu_DbCursor_getNthTblName(copy.get(), 1)), W("b"));
+    EXPECT_EQ(valueIn(zu_DbCursor_getNthFldList(copy.get(), 1)), W("b"));
+    EXPECT_NE(zu_DbCursor_getNthFldList(copy.get(), 0), zu_DbCursor_getNthFldList(cursor.get(), 1));
+
+    const Cursor incomplete(zu_DbCursor_create());
+    EXPECT_EQ(zu_DbCursor_copy(incomplete.get()), nullptr);
+    zu_DbCursor_insEnd(incomplete.get(), W("x"), nullptr);
+    EXPECT_EQ(zu_DbCursor_copy(incomplete.get()), nullptr);
+}
+
+TEST(DbCursor, joining)
+{
+    const Cursor a = cursorOf({W("a")});
+    Cursor b = cursorOf({W("b"), W("c")});
+    EXPECT_EQ(zu_DbCursor_join(a.get(), b.release()), 1);
+    EXPECT_EQ(zu_DbCursor_length(a.get()), 3u);
+    EXPECT_EQ(str(zu_DbCursor_getCurrTblName(a.get())), W("a"));
+    EXPECT_EQ(zu_DbCursor_join(a.get(), nullptr), 0);
+}
+
+TEST(DbCursor, badInputAndMemory)
+{
+    DbFldList* const fields = fieldsOf(W("mine"));
+    EXPECT_EQ(zu_DbCursor_insStart(nullptr, W("a"), fields), 0);
+    EXPECT_EQ(zu_DbCursor_insEnd(nullptr, W("a"), fields), 0);
+    EXPECT_EQ(zu_DbCursor_modCurr(nullptr, W("a"), fields), 0);
+    EXPECT_EQ(zu_DbCursor_delCurr(nullptr), 0);
+    EXPECT_EQ(zu_DbCursor_delNth(nullptr, 0), 0);
+    EXPECT_EQ(zu_DbCursor_destroy(nullptr), 0);
+    EXPECT_EQ(zu_DbCursor_copy(nullptr), nullptr);
+    EXPECT_EQ(zu_DbCursor_getNth(nullptr, 0), nullptr);
+    EXPECT_EQ(zu_DbCursorNode_destroy(nullptr), nullptr);
+    DbCursorNode* const node = zu_DbCursorNode_create(W("a"), fields);
+    EXPECT_EQ(node->fields, fields);
+    node->fields = nullptr;
+    EXPECT_EQ(zu_DbCursorNode_destroy(node), nullptr);
+
+    // What was not taken over is still the caller's.
+    int32_t result = 1;
+    const Cursor cursor = cursorOf({W("a")});
+    const auto failed = [&] {
+        EXPECT_EQ(result, 0);
+        EXPECT_EQ(valueIn(fields), W("mine"));
+    };
+    sweepAllocations(
+        [&] {
+            result = zu_DbCursor_insEnd(cursor.get(), W("b"), fields);
+            if (result == 1) {
+                zu_DbCursor_getNth(cursor.get(), 1)->fields = nullptr;
+                zu_DbCursor_delNth(cursor.get(), 1);
+            }
+        },
+        failed);
+    DbCursor* copy = nullptr;
+    sweepAllocations(
+        [&] {
+            copy = zu_DbCursor_copy(cursor.get());
+            zu_DbCursor_destroy(copy);
+        },
+        [&] { EXPECT_EQ(copy, nullptr); });
+    zu_DbFldList_destroy(fields);
+}
+
+} // namespace

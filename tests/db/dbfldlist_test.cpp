@@ -1,0 +1,334 @@
+#include "driver.h"
+#include "support/memory.h"
+#include "support/trace.h"
+#include "zu_DbFldList.h"
+#include "zu_Diag.h"
+#include "zu_Memory.h"
+
+namespace {
+
+using namespace zutest;
+
+struct ListDeleter
+{
+    void operator()(DbFldList* list) const { zu_DbFldList_destroy(list); }
+};
+using List = std::unique_ptr<DbFldList, ListDeleter>;
+
+constexpr const zu_wchar* none = nullptr;
+
+List listOf(std::initializer_list<WideLiteral> names)
+{
+    List list(zu_DbFldList_create(nullptr));
+    for (const WideLiteral name : names)
+        EXPECT_EQ(zu_DbFldList_insEnd(list.get(), name, name, 8, 2, 'c'), 1);
+    return list;
+}
+
+TEST(DbFldList, createMakesUpperCaseTextFields)
+{
+    const List list(zu_DbFldList_create(W("diam"), W("12"), W("tag"), none, none));
+    EXPECT_EQ(zu_DbFldList_length(list.get()), 2u);
+    EXPECT_EQ(zu_DbFldList_eol(list.get()), 1) << "no current field";
+    EXPECT_EQ(zu_DbFldList_start(list.get()), 1);
+    EXPECT_EQ(str(zu_DbFldList_getCurrName(list.get())), W("DIAM"));
+    EXPECT_EQ(str(zu_DbFldList_getCurrStr(list.get())), W("12"));
+    EXPECT_EQ(zu_DbFldList_getCurrType(list.get()), W('C'));
+    EXPECT_EQ(zu_DbFldList_getCurrWidth(list.get()), 0);
+    EXPECT_EQ(zu_DbFldList_next(list.get()), 1);
+    EXPECT_EQ(str(zu_DbFldList_getNth(list.get(), 1)->name), W("TAG"));
+    EXPECT_EQ(str(zu_DbFldList_getNth(list.get(), 1)->value), W("")) << "a null value is an empty one here";
+    const List empty(zu_DbFldList_create(nullptr));
+    EXPECT_EQ(zu_DbFldList_length(empty.get()), 0u);
+}
+
+TEST(DbFldList, valuesAreStoredTrimmed)
+{
+    const struct
+    {
+        const char* what;
+        zu_wchar type;
+        WideLiteral given;
+        WideLiteral stored;
+    } rows[] = {
+        {"number", 'N', W("  12.5  "), W("12.5")},
+        {"number of the other kind", 'f', W("  12.5  "), W("12.5")},
+        {"text", 'C', W("  12.5  "), W("  12.5")},
+        {"whole number", 'L', W(" 7 "), W(" 7")},
+        {"all blanks", 'C', W("   "), W("")},
+        {"all blanks in a number", 'N', W("   "), W("")},
+        {"no-break space", 'C', W("a\u00a0\t"), W("a")},
+        {"inner blanks", 'N', W(" 1 2 "), W("1 2")},
+        {"none", 'C', nullptr, nullptr},
+    };
+    for (const auto& row : rows) {
+        DbFldNode* const field = zu_DbFldNode_new(W("x"), row.given, 5, 1, row.type);
+        ASSERT_NE(field, nullptr);
+        EXPECT_EQ(str(field->value), str(row.stored)) << row.what;
+        EXPECT_EQ(field->type, row.type & ~0x20) << row.what;
+        EXPECT_EQ(zu_DbFldNode_destroy(field), 1);
+    }
+}
+
+TEST(DbFldList, aValueMayBeSetFromItself)
+{
+    const List list = listOf({W("abcdef")});
+    zu_DbFldList_start(list.get());
+    DbFldNode* const field = zu_DbFldList_getNth(list.get(), 0);
+    EXPECT_EQ(zu_DbFldList_modCurrVal(list.get(), field->value + 2), 1);
+    EXPECT_EQ(str(field->value), W("cdef"));
+    EXPECT_EQ(zu_DbFldList_modCurrVal(list.get(), nullptr), 0);
+    EXPECT_EQ(field->value, nullptr);
+    EXPECT_EQ(str(zu_DbFldList_getCurrStr(list.get())), W(""));
+    EXPECT_EQ(str(zu_DbFldList_getCurrStrPadded(list.get())), W("        "));
+    EXPECT_EQ(zu_DbFldList_getCurrInt(list.get()), 0);
+}
+
+TEST(DbFldList, findWantsStoredUpperCaseAndFindFldDoesNot)
+{
+    const List list = listOf({W("Diam"), W("DIAM"), W("diam"), W("Gr\u00f6\u00dfe")});
+    EXPECT_EQ(zu_DbFldList_find(list.get(), W("diam")), 1);
+    EXPECT_EQ(zu_LnkList_getPos(list.get()), 1);
+    EXPECT_EQ(zu_DbFldList_find(list.get(), W("DIA")), 0) << "a beginning of the name";
+    EXPECT_EQ(zu_DbFldList_eol(list.get()), 1);
+    EXPECT_EQ(zu_DbFldList_find(list.get(), W("GR\u00f6\u00dfE")), 0);
+    EXPECT_EQ(zu_DbFldList_findFld(list.get(), W("DIAM")), zu_DbFldList_getNth(list.get(), 0)) << "the first one";
+    EXPECT_EQ(zu_DbFldList_findFld(list.get(), W("gR\u00f6\u00dfE")), zu_DbFldList_getNth(list.get(), 3));
+    EXPECT_EQ(zu_LnkList_getPos(list.get()), 3);
+    EXPECT_EQ(zu_DbFldList_findFld(list.get(), W("DIAMETER")), nullptr);
+    EXPECT_EQ(zu_DbFldList_eol(list.get()), 1);
+    EXPECT_EQ(str(zu_DbFldList_getFldVal(list.get(), W("DIAM"))), W("Diam"));
+    EXPECT_EQ(str(zu_DbFldList_getFldVal(list.get(), W("x"))), W(""));
+    EXPECT_EQ(zu_DbFldList_modFldVal(list.get(), W("diam"), W("new ")), 1);
+    EXPECT_EQ(str(zu_DbFldList_getNthStr(list.get(), 0)), W("new"));
+    EXPECT_EQ(zu_DbFldList_modFldVal(list.get(), W("x"), W("new")), 0);
+    EXPECT_EQ(zu_DbFldList_delFld(list.get(), W("diam")), 1);
+    EXPECT_EQ(str(zu_DbFldList_getNth(list.get(), 1)->name), W("diam")) << "only the upper-case one went";
+    EXPECT_EQ(zu_DbFldList_delFld(list.get(), W("diam")), 0);
+}
+
+TEST(DbFldList, readersCutAndPad)
+{
+    const List list = listOf({W("ABC")});
+    zu_DbFldList_start(list.get());
+    EXPECT_EQ(str(zu_DbFldList_getCurrStrPadded(list.get())), W("ABC     "));
+    EXPECT_EQ(str(zu_DbFldList_getNthStrPadded(list.get(), 0)), W("ABC     "));
+    EXPECT_EQ(zu_DbFldList_modCurrWidth(list.get(), 2), 8);
+    EXPECT_EQ(zu_DbFldList_modCurrPrec(list.get(), 5), 2);
+    EXPECT_EQ(zu_DbFldList_getCurrWidth(list.get()), 2);
+    EXPECT_EQ(zu_DbFldList_getCurrPrec(list.get()), 5);
+    EXPECT_EQ(str(zu_DbFldList_getCurrStrPadded(list.get())), W("ABC")) << "a narrow width does not cut";
+    zu_DbFldList_modCurrWidth(list.get(), -1);
+    EXPECT_EQ(str(zu_DbFldList_getCurrStrPadded(list.get())), W("ABC") + Wide(509, W(' ')));
+
+    const Wide text = Wide(511, W('7')) + W("89");
+    zu_DbFldList_modCurrVal(list.get(), text.c_str());
+    EXPECT_EQ(str(zu_DbFldList_getCurrStr(list.get())), text.substr(0, 512));
+    EXPECT_EQ(str(zu_DbFldList_getCurrStrPadded(list.get())), text.substr(0, 512));
+    EXPECT_EQ(str(zu_DbFldList_getNthStr(list.get(), 0)), text.substr(0, 512));
+    EXPECT_EQ(str(zu_DbFldList_getFldVal(list.get(), W("abc"))), text.substr(0, 512));
+    EXPECT_EQ(zu_DbFldList_getCurrInt(list.get()), INT32_MAX);
+    EXPECT_NE(zu_DbFldList_getCurrStr(list.get()), zu_DbFldList_getNthStr(list.get(), 0)) << "buffers of their own";
+
+    zu_DbFldList_modCurrVal(list.get(), W(" -12.75e1kg"));
+    EXPECT_EQ(zu_DbFldList_getCurrDouble(list.get()), -127.5);
+    EXPECT_EQ(zu_DbFldList_getCurrInt(list.get()), -12);
+}
+
+TEST(DbFldList, positions)
+{
+    const List list = listOf({W("A"), W("B")});
+    EXPECT_EQ(str(zu_DbFldList_getNthStr(list.get(), 1)), W("B"));
+    EXPECT_EQ(zu_DbFldList_modNthVal(list.get(), 0, W("x")), 1);
+    EXPECT_EQ(str(zu_DbFldList_getCurrName(list.get())), W("A"));
+    EXPECT_EQ(str(zu_DbFldList_getNthStr(list.get(), 2)), W(""));
+    EXPECT_EQ(str(zu_DbFldList_getNthStrPadded(list.get(), 2)), W("")) << "not the width of another field";
+    EXPECT_EQ(zu_DbFldList_modNthVal(list.get(), 2, W("x")), 0);
+    EXPECT_EQ(zu_DbFldList_insStart(list.get(), Wide(70, W('n')).c_str(), nullptr, 1, 0, 'L'), 1);
+    EXPECT_EQ(str(zu_DbFldList_getNth(list.get(), 0)->name), Wide(63, W('n')));
+    zu_DbFldList_freeValues(list.get());
+    EXPECT_EQ(zu_DbFldList_getNth(list.get(), 1)->value, nullptr);
+    EXPECT_EQ(zu_DbFldList_delCurr(list.get()), 1);
+    EXPECT_EQ(str(zu_DbFldList_getCurrName(list.get())), W("B"));
+}
+
+TEST(DbFldList, copiesAreDeepAndExact)
+{
+    const List list = listOf({W("A"), W("B")});
+    DbFldNode* const field = zu_DbFldList_getNth(list.get(), 1);
+    field->value[0] = W(' '); // a value that the rule would trim
+    DbFldNode* const first = zu_DbFldList_getNth(list.get(), 0);
+    first->precision = 9;
+    zu_Free(std::exchange(first->value, nullptr));
+    const List copy(zu_DbFldList_copy(list.get()));
+    EXPECT_EQ(zu_LnkList_getPos(list.get()), 0) << "the cursor of the source stays";
+    EXPECT_EQ(zu_DbFldList_eol(copy.get()), 1);
+    EXPECT_EQ(zu_DbFldList_getNth(copy.get(), 0)->value, nullptr);
+    EXPECT_EQ(zu_DbFldList_getNth(copy.get(), 0)->precision, 9u);
+    EXPECT_EQ(str(zu_DbFldList_getNth(copy.get(), 1)->value), W(" "));
+    EXPECT_NE(zu_DbFldList_getNth(copy.get(), 1)->value, field->value);
+    EXPECT_EQ(zu_DbFldList_getNth(copy.get(), 1)->width, 8u);
+}
+
+TEST(DbFldList, descriptors)
+{
+    const struct
+    {
+        const char* what;
+        WideLiteral line;
+        int result;
+        WideLiteral name;
+        zu_wchar type;
+        uint32_t width;
+        uint32_t precision;
+    } rows[] = {
+        {"as it is", W("DIAMETER N010003"), 1, W("DIAMETER"), 'N', 10, 3},
+        {"in lower case", W("  pipe   c030000"), 1, W("PIPE"), 'C', 30, 0},
+        {"an eighth character", W("PIPE C0300001 text"), 1, W("PIPE"), 'C', 30, 0},
+        {"text behind it", W("PIPE C030000 text"), 1, W("PIPE"), 'C', 30, 0},
+        {"no digits", W("PIPE C-10+05"), 1, W("PIPE"), 'C', 0, 0},
+        {"too short", W("PIPE C1 0000"), 0, W("PIPE"), '?', 99, 99},
+        {"much too short", W("PIPE C30"), 0, W("PIPE"), '?', 99, 99},
+        {"no blank", W("PIPE\tC030000"), 0, W("PIPE\tC030000"), '?', 99, 99},
+        {"no specification", W("C030000"), 0, W("C030000"), '?', 99, 99},
+        {"blanks", W("   "), 0, W(""), '?', 99, 99},
+        {"null", nullptr, 0, W(""), '?', 99, 99},
+    };
+    for (const auto& row : rows) {
+        WideBuffer<40> name(W("unchanged"));
+        zu_wchar type = '?';
+        uint32_t width = 99;
+        uint32_t precision = 99;
+        EXPECT_EQ(zu_DbFldList_parseFldDesc(row.line, name, &type, &width, &precision), row.result) << row.what;
+        EXPECT_EQ(name.str(), row.name);
+        EXPECT_EQ(type, row.type) << row.what;
+        EXPECT_EQ(width, row.width) << row.what;
+        EXPECT_EQ(precision, row.precision) << row.what;
+        EXPECT_EQ(zu_DbFldList_parseFldDesc(row.line, nullptr, nullptr, nullptr, nullptr), row.result);
+    }
+}
+
+TEST(DbFldList, templates)
+{
+    Sandbox sandbox;
+    const std::string longLine = "LONG C001000 " + std::string(300, 'x') + " LATE C002000\n";
+    sandbox.write(W("pipe.tpl"), "diameter N010003\r\n\r\nno field\n" + longLine + "tag C030000");
+    const List list(zu_DbFldList_fromTemplate(sandbox.path(W("pipe.tpl")).c_str()));
+    ASSERT_EQ(zu_DbFldList_length(list.get()), 3u);
+    EXPECT_EQ(zu_DbFldList_eol(list.get()), 1);
+    const DbFldNode* const first = zu_DbFldList_getNth(list.get(), 0);
+    EXPECT_EQ(str(first->name), W("DIAMETER"));
+    EXPECT_EQ(first->value, nullptr);
+    EXPECT_EQ(first->type, W('N'));
+    EXPECT_EQ(first->width, 10u);
+    EXPECT_EQ(first->precision, 3u);
+    EXPECT_EQ(str(zu_DbFldList_getNth(list.get(), 1)->name), W("LONG"));
+    EXPECT_EQ(str(zu_DbFldList_getNth(list.get(), 2)->name), W("TAG"));
+    sandbox.write(W("mark.tpl"), "\xEF\xBB\xBFtag C030000\n");
+    const List marked(zu_DbFldList_fromTemplate(sandbox.path(W("mark.tpl")).c_str()));
+    EXPECT_EQ(str(zu_DbFldList_getNth(marked.get(), 0)->name), W("TAG")) << "behind a byte order mark";
+    // The name is cut at 256 characters together with its line, which leaves no room for a specification.
+    sandbox.write(W("bad.tpl"), std::string(260, 'x') + " C030000\nPIPE C30\n");
+    EXPECT_EQ(zu_DbFldList_fromTemplate(sandbox.path(W("bad.tpl")).c_str()), nullptr);
+    EXPECT_EQ(zu_DbFldList_fromTemplate(sandbox.path(W("none.tpl")).c_str()), nullptr);
+    EXPECT_EQ(zu_DbFldList_fromTemplate(sandbox.path().c_str()), nullptr) << "a directory";
+    EXPECT_EQ(zu_DbFldList_fromTemplate(nullptr), nullptr);
+}
+
+TEST(DbFldList, printing)
+{
+    const List list = listOf({W("A\u0416"), W("B"), W("ALONGERNAMETHANSIXTEEN")});
+    zu_Free(std::exchange(zu_DbFldList_getNth(list.get(), 1)->value, nullptr));
+    zu_DbFldList_start(list.get());
+    EXPECT_EQ(printedBy([&] { zu_DbFldList_printList(list.get()); }),
+              "A\u0416               C:A\u0416\nB                ALONGERNAMETHANSIXTEEN C:ALONGERNAMETHANSIXTEEN\n");
+    EXPECT_EQ(zu_LnkList_getPos(list.get()), 0);
+}
+
+TEST(DbFldList, destroyingTracesUnderTheStatedNames)
+{
+    DbFldNode* const field = zu_DbFldNode_new(nullptr, nullptr, 0, 0, 'C');
+    EXPECT_EQ(str(field->name), W(""));
+    TraceCapture trace(ZU_DIAG_DBFLD);
+    EXPECT_EQ(zu_DbFldNode_destroy(field), 1);
+    EXPECT_EQ(zu_DbFldNode_destroy(nullptr), 0);
+    const std::string entry = "dbfld Entering zu_DbFldNode_destroy.";
+    const std::string exit = "dbfld Entering zu_StrListNode_destroy.";
+    EXPECT_EQ(trace.lines(), (std::vector<std::string>{entry, exit, entry, exit}));
+}
+
+TEST(DbFldList, badInput)
+{
+    DbFldList* const null = nullptr;
+    EXPECT_EQ(zu_DbFldList_copy(null), nullptr);
+    zu_DbFldList_destroy(null);
+    zu_DbFldList_freeValues(null);
+    zu_DbFldList_printList(null);
+    EXPECT_EQ(zu_DbFldList_insStart(null, W("a"), W("b"), 1, 1, 'C'), 0);
+    EXPECT_EQ(zu_DbFldList_insEnd(null, W("a"), W("b"), 1, 1, 'C'), 0);
+    EXPECT_EQ(zu_DbFldList_find(null, W("a")), 0);
+    EXPECT_EQ(zu_DbFldList_findFld(null, W("a")), nullptr);
+    EXPECT_EQ(zu_DbFldList_delFld(null, W("a")), 0);
+    EXPECT_EQ(zu_DbFldList_delCurr(null), 0);
+    EXPECT_EQ(zu_DbFldList_eol(null), 1);
+    EXPECT_EQ(zu_DbFldNode_fromFld(nullptr), nullptr);
+    const List list = listOf({W("A")});
+    for (DbFldList* const without : {null, list.get()}) { // a list without a current field
+        EXPECT_EQ(str(zu_DbFldList_getCurrStr(without)), W(""));
+        EXPECT_EQ(str(zu_DbFldList_getCurrStrPadded(without)), W(""));
+        EXPECT_EQ(str(zu_DbFldList_getCurrName(without)), W(""));
+        EXPECT_EQ(zu_DbFldList_getCurrDouble(without), 0.0);
+        EXPECT_EQ(zu_DbFldList_getCurrInt(without), 0);
+        EXPECT_EQ(zu_DbFldList_getCurrType(without), W('C'));
+        EXPECT_EQ(zu_DbFldList_getCurrWidth(without), 0);
+        EXPECT_EQ(zu_DbFldList_getCurrPrec(without), 0);
+        EXPECT_EQ(zu_DbFldList_modCurrVal(without, W("x")), 0);
+        EXPECT_EQ(zu_DbFldList_modCurrWidth(without, 3), 0);
+        EXPECT_EQ(zu_DbFldList_modCurrPrec(without, 3), 0);
+    }
+    EXPECT_EQ(zu_DbFldList_find(list.get(), nullptr), 0);
+    EXPECT_EQ(zu_DbFldList_delFld(list.get(), nullptr), 0);
+    EXPECT_EQ(zu_DbFldList_findFld(list.get(), nullptr), nullptr);
+    EXPECT_EQ(str(zu_DbFldList_getNthStr(list.get(), -1)), W(""));
+}
+
+TEST(DbFldList, withoutMemory)
+{
+    Sandbox sandbox;
+    sandbox.write(W("t.tpl"), "A C001000\nB C002000\n");
+    const Wide path = sandbox.path(W("t.tpl"));
+    DbFldList* list = nullptr;
+    const auto isNull = [&] {
+        EXPECT_EQ(list, nullptr);
+    };
+    sweepAllocations(
+        [&] {
+            list = zu_DbFldList_create(W("a"), W("1"), W("b"), W("2"), none);
+            zu_DbFldList_destroy(list);
+        },
+        isNull);
+    const List source = listOf({W("A"), W("B")});
+    sweepAllocations(
+        [&] {
+            list = zu_DbFldList_copy(source.get());
+            zu_DbFldList_destroy(list);
+        },
+        isNull);
+    sweepAllocations(
+        [&] {
+            list = zu_DbFldList_fromTemplate(path.c_str());
+            zu_DbFldList_destroy(list);
+        },
+        isNull);
+    zu_DbFldList_start(source.get());
+    const Wide before = str(zu_DbFldList_getCurrStr(source.get()));
+    sweepAllocations(
+        [&] {
+            if (zu_DbFldList_modCurrVal(source.get(), before.c_str()) == 0) {
+                EXPECT_EQ(str(zu_DbFldList_getCurrStr(source.get())), before);
+            }
+        },
+        [] {});
+}
+
+} // namespace

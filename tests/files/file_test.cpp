@@ -1,0 +1,221 @@
+#include "files_support.h"
+#include "support/memory.h"
+#include "zu_File.h"
+
+namespace {
+
+using namespace zutest;
+
+TEST(File, accessTests)
+{
+    Sandbox sandbox;
+    sandbox.write(W("Plain"), "x");
+    sandbox.write(W("locked"), "x");
+    const Wide locked = sandbox.path(W("locked"));
+    EXPECT_EQ(zu_File_setReadOnlyAccess(locked.c_str()), 1);
+    const struct
+    {
+        const char* what;
+        Wide path;
+        int32_t mode, granted;
+    } rows[] = {
+        {"exists", sandbox.path(W("Plain")), 0, 1},
+        {"mode that is none", sandbox.path(W("Plain")), 1, 0},
+        {"write", sandbox.path(W("Plain")), 2, 1},
+        {"read", sandbox.path(W("Plain")), 4, 1},
+        {"read and write", sandbox.path(W("Plain")), 6, 1},
+        {"another case", sandbox.path(W("PLAIN")), 0, 1},
+        {"a directory", sandbox.path(), 0, 1},
+        {"missing", sandbox.path(W("none")), 0, 0},
+        {"empty", Wide(), 0, 0},
+        {"read-only, for reading", locked, 4, 1},
+        {"read-only, for writing", locked, 2, 0},
+        {"read-only, for both", locked, 6, 0},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(zu_File_hasAccess(row.path.c_str(), row.mode), row.granted) << row.what;
+    EXPECT_EQ(zu_File_isWriteEnabled(locked.c_str()), 0);
+    EXPECT_EQ(zu_File_setReadWriteAccess(locked.c_str()), 1);
+    EXPECT_EQ(zu_File_isWriteEnabled(locked.c_str()), 1);
+    EXPECT_EQ(zu_File_setReadOnlyAccess(sandbox.path(W("none")).c_str()), 0);
+    EXPECT_EQ(zu_File_setReadWriteAccess(nullptr), 0);
+    EXPECT_EQ(zu_File_hasAccess(nullptr, 0), 0);
+}
+
+TEST(File, deleteSingleTakesFilesOnly)
+{
+    Sandbox sandbox;
+    sandbox.write(W("Mixed.Case"), "");
+    std::filesystem::create_directory(sandbox.native(W("dir")));
+    EXPECT_EQ(zu_File_deleteSingle(sandbox.path(W("mixed.case")).c_str()), 1);
+    EXPECT_EQ(zu_File_deleteSingle(sandbox.path(W("mixed.case")).c_str()), 0);
+    EXPECT_EQ(zu_File_deleteSingle(sandbox.path(W("dir")).c_str()), 0);
+    EXPECT_EQ(zu_File_deleteSingle(W("")), 0);
+    EXPECT_EQ(zu_File_deleteSingle(nullptr), 0);
+    EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"dir/"}));
+}
+
+TEST(File, moveReplacesTheDestination)
+{
+    Sandbox sandbox;
+    const auto move = [&](WideLiteral from, WideLiteral to) {
+        return zu_File_move(sandbox.path(from).c_str(), sandbox.path(to).c_str());
+    };
+    sandbox.write(W("a"), "1");
+    sandbox.write(W("b"), "2");
+    EXPECT_EQ(move(W("a"), W("b")), 0);
+    EXPECT_EQ(sandbox.read(W("b")), "1");
+    EXPECT_FALSE(sandbox.exists(W("a")));
+    EXPECT_EQ(move(W("b"), W("b")), 0) << "onto itself";
+    EXPECT_EQ(sandbox.read(W("b")), "1");
+    EXPECT_EQ(move(W("b"), W("B")), 0) << "into another case";
+    // Wine calls it done, and leaves the name as it was.
+    EXPECT_TRUE(onWindows || entriesOf(sandbox) == std::vector<std::string>{"B"});
+    EXPECT_EQ(move(W("B"), W("none\\b")), -1) << "no such directory";
+    EXPECT_EQ(sandbox.read(W("B")), "1");
+    EXPECT_EQ(move(W("a"), W("B")), -1);
+    EXPECT_FALSE(sandbox.exists(W("B"))) << "deleted although there is no source";
+
+    sandbox.write(W("c"), "3");
+    EXPECT_EQ(zu_File_move(W(""), sandbox.path(W("c")).c_str()), -1);
+    EXPECT_EQ(zu_File_move(nullptr, sandbox.path(W("c")).c_str()), -1);
+    EXPECT_EQ(zu_File_move(sandbox.path(W("c")).c_str(), nullptr), -1);
+    if (onWindows)
+        sandbox.write(W("d"), "4");
+    else
+        std::filesystem::create_hard_link(sandbox.native(W("c")), sandbox.native(W("d")));
+    EXPECT_EQ(move(W("c"), W("d")), 0);
+    EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"d"})) << "another link to the same file";
+
+    sweepAllocations([&] { move(W("d"), W("e")); }, [&] { EXPECT_EQ(sandbox.read(W("d")), "3"); });
+}
+
+TEST(File, timesAreComparedInSeconds)
+{
+    Sandbox sandbox;
+    sandbox.write(W("old"), "");
+    sandbox.write(W("new"), "");
+    const Wide older = sandbox.path(W("old"));
+    const Wide newer = sandbox.path(W("new"));
+    const Wide missing = sandbox.path(W("none"));
+    EXPECT_EQ(zu_File_setTime(older.c_str(), 1'000'000'001), 0);
+    EXPECT_EQ(zu_File_setTime(newer.c_str(), 1'000'000'002), 0);
+    int32_t time = -1;
+    EXPECT_EQ(zu_File_getTime(older.c_str(), &time), 0);
+    EXPECT_EQ(time, 1'000'000'001);
+    EXPECT_EQ(zu_File_cmpTime(older.c_str(), newer.c_str()), -1);
+    EXPECT_EQ(zu_File_cmpTime(newer.c_str(), older.c_str()), 1);
+    EXPECT_EQ(zu_File_cmpTime(newer.c_str(), newer.c_str()), 0);
+    EXPECT_EQ(zu_File_cmpTime(missing.c_str(), older.c_str()), -1);
+    EXPECT_EQ(zu_File_cmpTime(missing.c_str(), missing.c_str()), -1);
+    EXPECT_EQ(zu_File_cmpTime(older.c_str(), missing.c_str()), 1);
+
+    // Both times are set, also those before 1970, and also those of a file that may not be written.
+    EXPECT_EQ(zu_File_setReadOnlyAccess(older.c_str()), 1);
+    EXPECT_EQ(zu_File_setTime(older.c_str(), -86'400), 0);
+    EXPECT_EQ(zu_File_getTime(older.c_str(), &time), 0);
+    EXPECT_EQ(time, -86'400);
+    zu_File_setReadWriteAccess(older.c_str());
+
+    time = 7;
+    EXPECT_EQ(zu_File_getTime(missing.c_str(), &time), 1);
+    EXPECT_EQ(time, 0);
+    using namespace std::chrono;
+    const auto late = std::filesystem::file_time_type::clock::now() + hours(24 * 365 * 100);
+    std::filesystem::last_write_time(sandbox.native(W("new")), late);
+    EXPECT_EQ(zu_File_getTime(newer.c_str(), &time), 1) << "does not fit 32 bits";
+    EXPECT_EQ(zu_File_cmpTime(older.c_str(), newer.c_str()), -1);
+    EXPECT_EQ(zu_File_getTime(newer.c_str(), nullptr), 1);
+    EXPECT_EQ(zu_File_getTime(nullptr, &time), 1);
+    EXPECT_EQ(zu_File_setTime(missing.c_str(), 1), -1);
+    EXPECT_EQ(zu_File_setTime(nullptr, 1), -1);
+}
+
+TEST(File, lengthOfAStream)
+{
+    Sandbox sandbox;
+    sandbox.write(W("four"), "1\n23");
+    StreamOf stream(sandbox, "four", "r+");
+    EXPECT_EQ(zu_File_length(stream), 4);
+    EXPECT_EQ(std::fgetc(stream), '1');
+    EXPECT_EQ(std::fgetc(stream), '\n');
+    EXPECT_EQ(zu_File_length(stream), 4);
+    EXPECT_EQ(std::fgetc(stream), '2') << "the position stays";
+    EXPECT_EQ(zu_File_length(nullptr), -1);
+    std::filesystem::resize_file(sandbox.native(W("four")), std::uintmax_t{1} << 31);
+    EXPECT_EQ(zu_File_length(stream), -1);
+}
+
+// Names that no directory can hold, or that lead nowhere: the failure value everywhere, and nothing made.
+TEST(File, badNames)
+{
+    Sandbox sandbox;
+    sandbox.write(W("good"), "x");
+    std::vector<std::pair<std::string, Wide>> names = {
+        {"300 units", sandbox.path(Wide(300, W('n')))},
+        {"5,000 units", sandbox.path(Wide(5000, W('n')))},
+        {"below a file", sandbox.path(W("good\\x"))},
+        {"no such directory", sandbox.path(W("none\\x"))},
+        {"no such drive", W("Q:\\x")},
+        {"a directory", sandbox.path()},
+        {"empty", Wide()},
+    };
+    if (makeLink(sandbox.native(W("loop")), sandbox.native(W("loop"))))
+        names.push_back({"a link to itself", sandbox.path(W("loop"))});
+    const Wide good = sandbox.path(W("good"));
+    for (const auto& [what, name] : names) {
+        const zu_wchar* const bad = name.c_str();
+        zu_wchar found[300];
+        int32_t time = 0;
+        EXPECT_EQ(zu_File_exists(bad), 0) << what;
+        EXPECT_EQ(zu_File_hasAccess(bad, 0), what == "a directory") << what;
+        EXPECT_EQ(zu_File_create(bad), 0) << what;
+        EXPECT_EQ(zu_File_delete(bad, 1), 0) << what;
+        EXPECT_EQ(zu_File_copy(bad, good.c_str()), 1) << what;
+        EXPECT_EQ(zu_File_copy(good.c_str(), bad), 1) << what;
+        EXPECT_EQ(zu_File_append(bad, good.c_str()), 1) << what;
+        EXPECT_EQ(zu_File_append(good.c_str(), bad), 1) << what;
+        EXPECT_EQ(zu_File_readFile(bad), nullptr) << what;
+        EXPECT_EQ(zu_File_readFileExactly(bad), nullptr) << what;
+        EXPECT_EQ(zu_File_slice(bad, 10), 0) << what;
+        EXPECT_EQ(zu_File_mend(bad), 0) << what;
+        EXPECT_EQ(zu_File_encrypt(bad, good.c_str()), 0) << what;
+        EXPECT_NE(zu_File_getUNCPathName(bad), nullptr) << what;
+        EXPECT_EQ(zu_File_getTime(bad, &time), what != "a directory") << what;
+        if (what != "a directory" && what != "a link to itself") {
+            EXPECT_EQ(zu_File_findFirst(bad, found), -1) << what;
+            EXPECT_EQ(zu_File_deleteSingle(bad), 0) << what;
+            EXPECT_EQ(zu_File_move(good.c_str(), bad), -1) << what;
+        }
+        EXPECT_EQ(sandbox.read(W("good")), "x") << what;
+    }
+    for (const auto& entry : entriesOf(sandbox))
+        EXPECT_TRUE(entry == "good" || entry == "loop") << entry;
+}
+
+TEST(File, namesBeyondAscii)
+{
+    // Cyrillic, a pair of surrogates, and a surrogate alone.
+    for (WideLiteral name : {W("\u0447\u0435\u0440\u0442\u0451\u0436.txt"), W("\U0001F4C4.txt"), W("\xD800.txt")}) {
+        if (onWindows && Wide(name).front() == 0xD800)
+            continue; // Wine's files have names in UTF-8
+        Sandbox sandbox;
+        const Wide path = sandbox.path() + W("\\") + name;
+        const Wide copy = path + W(".copy");
+        ASSERT_EQ(zu_File_create(path.c_str()), 1);
+        EXPECT_EQ(zu_File_hasAccess(path.c_str(), 2), 1);
+        zu_wchar found[300];
+        EXPECT_EQ(zu_File_findFirst(sandbox.path(W("*.txt")).c_str(), found), 0);
+        // Where names are bytes, half a pair comes back as what its bytes are, which leads to the same file.
+        const bool isWhole = onWindows || Wide(name).front() != 0xD800;
+        EXPECT_EQ(str(found), isWhole ? Wide(name) : str(found));
+        EXPECT_EQ(zu_File_hasAccess((sandbox.path() + W("\\") + str(found)).c_str(), 2), 1);
+        EXPECT_NE(zu_File_findNext(found), 0);
+        EXPECT_EQ(zu_File_copy(path.c_str(), copy.c_str()), 0);
+        EXPECT_EQ(zu_File_move(copy.c_str(), path.c_str()), 0);
+        EXPECT_EQ(zu_File_deleteSingle(path.c_str()), 1);
+        EXPECT_TRUE(entriesOf(sandbox).empty());
+    }
+}
+
+} // namespace

@@ -1,0 +1,188 @@
+// The text kit, against the C runtime as a second opinion.
+#include "frame/format.h"
+#include "frame/text.h"
+#include "platform/utf8.h"
+#include "support/memory.h"
+#include "support/wide.h"
+
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <random>
+
+namespace {
+
+using namespace zutest;
+namespace text = zu::text;
+
+std::string narrow(zu::WideView wide)
+{
+    const zu::ByteString bytes = zu::utf8::encode(wide);
+    return std::string(bytes.begin(), bytes.end());
+}
+
+// A conversion with random flags, width and precision.
+std::string randomConversion(std::mt19937& random, const char* types, bool unsignedType)
+{
+    std::string pattern = "%";
+    for (char flag : std::string(unsignedType ? "-0" : "-+ 0")) {
+        if (random() % 3 == 0)
+            pattern += flag;
+    }
+    if (random() % 2 == 0)
+        pattern += std::to_string(random() % 20 + 1);
+    if (random() % 2 == 0)
+        pattern.append(".").append(std::to_string(random() % 12));
+    const std::size_t count = std::char_traits<char>::length(types);
+    pattern += types[random() % count];
+    return pattern;
+}
+
+template <class Value>
+std::string byRuntime(const std::string& pattern, Value value)
+{
+    char buffer[512];
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wformat-nonliteral"
+    std::snprintf(buffer, sizeof buffer, pattern.c_str(), value);
+#pragma GCC diagnostic pop
+    return buffer;
+}
+
+TEST(Format, agreesWithTheRuntime)
+{
+    std::mt19937 random(1);
+    std::uniform_real_distribution<double> mantissa(-10.0, 10.0);
+    for (int round = 0; round < 20'000; ++round) {
+        const auto integer = static_cast<int>(random() >> (random() % 32)) * (random() % 2 == 0 ? 1 : -1);
+        const double real = mantissa(random) * std::pow(10.0, static_cast<int>(random() % 40) - 20);
+        const std::string forInt = randomConversion(random, "di", false);
+        const std::string forUnsigned = randomConversion(random, "uxX", true);
+        const std::string forReal = randomConversion(random, "f", false);
+        ASSERT_EQ(narrow(zu::formatted(widen(forInt), integer)), byRuntime(forInt, integer))
+            << forInt << " " << integer;
+        ASSERT_EQ(narrow(zu::formatted(widen(forUnsigned), integer)),
+                  byRuntime(forUnsigned, static_cast<unsigned>(integer)))
+            << forUnsigned << " " << integer;
+        ASSERT_EQ(narrow(zu::formatted(widen(forReal), real)), byRuntime(forReal, real)) << forReal << " " << real;
+    }
+}
+
+TEST(Format, textsCharactersAndLengthMarks)
+{
+    const struct
+    {
+        WideLiteral after;
+        zu::WideString result;
+    } rows[] = {
+        {W("a = b"), zu::formatted(W("%s = %s"), W("a"), W("b"))},
+        {W("ab   |   ab|abc"), zu::formatted(W("%-5s|%5s|%.3s"), W("ab"), W("ab"), W("abcdef"))},
+        {W("x% y"), zu::formatted(W("%c%% %c"), W('x'), W('y'))},
+        {W("01.02.65535.-1"), zu::formatted(W("%02hd.%02hd.%hu.%hd"), 1, 65538, 65535, 65535)},
+        {W("-5 7 0x1f"), zu::formatted(W("%ld %*d %#x"), -5, 0, 7, 31)},
+        {W("(null)"), zu::formatted(W("%s"), static_cast<const zu_wchar*>(nullptr))},
+        {W("inf -inf nan"), zu::formatted(W("%f %f %f"), INFINITY, -INFINITY, std::abs(NAN))},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(Wide(row.result), Wide(row.after));
+}
+
+TEST(Format, aPatternFromOutsideReadsNothingThatIsNotThere)
+{
+    EXPECT_EQ(narrow(zu::formatted(W("%s %d"))), "%s %d");
+    EXPECT_EQ(narrow(zu::formatted(W("%d %s"), W("text"), 5)), "%d %s") << "wrong kinds";
+    EXPECT_EQ(narrow(zu::formatted(W("100%"))), "100%");
+    EXPECT_EQ(narrow(zu::formatted(W("%n%q%-"), 1)), "%n%q%-");
+    EXPECT_LE(zu::formatted(W("%999999999d"), 1).size(), 5000u);
+}
+
+TEST(Format, resultsAreCutToTheBuffer)
+{
+    zu_wchar buffer[4] = {};
+    EXPECT_EQ(zu::formatInto(buffer, W("%s"), W("abcdef")), 6u) << "the whole length";
+    EXPECT_EQ(Wide(buffer), W("abc"));
+}
+
+TEST(Text, numbersAgreeWithTheRuntime)
+{
+    std::mt19937 random(2);
+    const std::string alphabet = "0123456789+-.eE \tx";
+    for (int round = 0; round < 100'000; ++round) {
+        std::string number;
+        for (std::size_t length = random() % 12; length > 0; --length)
+            number += alphabet[random() % alphabet.size()];
+        if (number.find("0x") != std::string::npos)
+            continue; // hexadecimal is not read
+        const double expected = std::strtod(number.c_str(), nullptr);
+        ASSERT_EQ(text::toDouble(widen(number)), expected) << number;
+        const long long integer =
+            std::clamp<long long>(std::strtoll(number.c_str(), nullptr, 10), INT32_MIN, INT32_MAX);
+        ASSERT_EQ(text::toInt(widen(number)), integer) << number;
+    }
+    const struct
+    {
+        const char* text;
+        double value;
+    } rows[] = {{"1e400", HUGE_VAL}, {"-1e400", -HUGE_VAL},       {"1e-400", 0.0},        {"0.0001e-330", 0.0},
+                {"", 0.0},           {"1e99999999999", HUGE_VAL}, {"0e99999999999", 0.0}, {"inf", HUGE_VAL}};
+    for (const auto& row : rows)
+        EXPECT_EQ(text::toDouble(widen(row.text)), row.value) << row.text;
+    EXPECT_EQ(text::toInt(Wide(10'000, W('9'))), INT32_MAX);
+    EXPECT_EQ(text::toDouble(Wide(10'000, W('9'))), HUGE_VAL);
+}
+
+TEST(Text, foldsTheAsciiLettersAlone)
+{
+    EXPECT_TRUE(text::equalIgnoringCase(W("aZ\u00e4"), W("Az\u00e4")));
+    EXPECT_FALSE(text::equalIgnoringCase(W("\u00e4"), W("\u00c4")));
+    EXPECT_EQ(text::compareIgnoringCase(W("_"), W("a")), 1) << "folded to upper case";
+    EXPECT_EQ(text::compare(W("\uffff"), W("a")), 1) << "units are unsigned";
+    EXPECT_EQ(text::hash(W("abC"), true), text::hash(W("ABc"), true));
+}
+
+TEST(Utf8, bytesSurviveReadingAndWriting)
+{
+    std::mt19937 random(3);
+    for (int round = 0; round < 20'000; ++round) {
+        std::string bytes;
+        for (std::size_t length = random() % 12; length > 0; --length)
+            bytes += static_cast<char>(random() % 4 == 0   ? 0x80 + random() % 0x80
+                                       : random() % 4 == 0 ? 0xE2
+                                                           : random() % 0x80);
+        const zu::ByteString back = zu::utf8::encode(zu::utf8::decode(bytes));
+        ASSERT_EQ(std::string(back.begin(), back.end()), bytes);
+    }
+}
+
+TEST(Utf8, everyCharacterAndWhatIsNone)
+{
+    for (std::uint32_t codePoint = 0; codePoint < 0x110000; codePoint += codePoint < 0x1000 ? 1 : 61) {
+        if (codePoint >= 0xD800 && codePoint < 0xE000)
+            continue;
+        Wide text;
+        if (codePoint >= 0x10000)
+            text += static_cast<zu_wchar>(0xD800 + ((codePoint - 0x10000) >> 10));
+        text += static_cast<zu_wchar>(codePoint < 0x10000 ? codePoint : 0xDC00 + (codePoint & 0x3FF));
+        const zu::ByteString bytes = zu::utf8::encode(text);
+        EXPECT_EQ(bytes.size(), codePoint < 0x80 ? 1u : codePoint < 0x800 ? 2u : codePoint < 0x10000 ? 3u : 4u);
+        ASSERT_EQ(Wide(zu::utf8::decode(bytes)), text) << codePoint;
+    }
+    const struct
+    {
+        const char* what;
+        std::string bytes;
+        WideLiteral text;
+    } rows[] = {
+        {"overlong", "\xC0\x80", W("\xDCC0\xDC80")},
+        {"overlong, three bytes", "\xE0\x80\x80", W("\xDCE0\xDC80\xDC80")},
+        {"encoded surrogate", "\xED\xA0\x80", W("\xDCED\xDCA0\xDC80")},
+        {"beyond the last", "\xF4\x90\x80\x80", W("\xDCF4\xDC90\xDC80\xDC80")},
+        {"cut short", "a\xE2\x82", W("a\xDCE2\xDC82")},
+        {"stray continuation", "\x80z", W("\xDC80z")},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(Wide(zu::utf8::decode(row.bytes)), Wide(row.text)) << row.what;
+    EXPECT_EQ(narrow(W("\xD801x\xDC01")), "\xED\xA0\x81x\xED\xB0\x81") << "other lone surrogates: three bytes";
+}
+
+} // namespace

@@ -1,0 +1,146 @@
+#include "zu_Ntuple.h"
+
+#include "geometry/geometry.h"
+#include "support/memory.h"
+
+namespace {
+
+using namespace zutest;
+
+struct DestroyNtuple
+{
+    void operator()(Ntuple* ntuple) const { zu_Ntuple_destroy(ntuple); }
+};
+using NtuplePtr = std::unique_ptr<Ntuple, DestroyNtuple>;
+
+NtuplePtr ntupleOf(const std::vector<double>& values)
+{
+    NtuplePtr ntuple(zu_Ntuple_create(static_cast<int32_t>(values.size())));
+    for (std::size_t index = 0; index < values.size(); ++index)
+        EXPECT_EQ(zu_Ntuple_setElement(ntuple.get(), static_cast<int32_t>(index), values[index]), 1);
+    return ntuple;
+}
+
+std::vector<double> valuesOf(const NtuplePtr& ntuple)
+{
+    return std::vector<double>(ntuple->elements, ntuple->elements + ntuple->count);
+}
+
+std::string printed(const Ntuple* ntuple)
+{
+    return written([ntuple](std::FILE* stream) { EXPECT_EQ(zu_Ntuple_print(ntuple, stream), 1); });
+}
+
+TEST(Ntuple, elementsAreBounded)
+{
+    const NtuplePtr ntuple(zu_Ntuple_create(3));
+    ASSERT_NE(ntuple, nullptr);
+    EXPECT_EQ(valuesOf(ntuple), (std::vector<double>{0, 0, 0}));
+    double value = 7;
+    EXPECT_EQ(zu_Ntuple_setElement(ntuple.get(), 2, 5.5), 1);
+    EXPECT_EQ(zu_Ntuple_getElement(&value, ntuple.get(), 2), 1);
+    EXPECT_EQ(value, 5.5);
+    for (const int32_t index : {3, INT32_MAX, -1, INT32_MIN}) {
+        EXPECT_EQ(zu_Ntuple_setElement(ntuple.get(), index, 1), 0) << index;
+        EXPECT_EQ(zu_Ntuple_getElement(&value, ntuple.get(), index), 0) << index;
+    }
+    EXPECT_EQ(value, 5.5);
+}
+
+TEST(Ntuple, arithmetic)
+{
+    const NtuplePtr a = ntupleOf({1, 2, 3}), b = ntupleOf({4, 6, 8}), out = ntupleOf({0, 0, 0}), two = ntupleOf({1, 1});
+    double product = 7;
+    EXPECT_EQ(zu_Ntuple_add(out.get(), a.get(), b.get()), 1);
+    EXPECT_EQ(valuesOf(out), (std::vector<double>{5, 8, 11}));
+    EXPECT_EQ(zu_Ntuple_subtract(out.get(), a.get(), b.get()), 1);
+    EXPECT_EQ(valuesOf(out), (std::vector<double>{-3, -4, -5})) << "the first minus the second";
+    EXPECT_EQ(zu_Ntuple_dotProduct(&product, a.get(), b.get()), 1);
+    EXPECT_EQ(product, 40);
+    EXPECT_EQ(zu_Ntuple_scale(out.get(), -2), 1);
+    EXPECT_EQ(valuesOf(out), (std::vector<double>{6, 8, 10}));
+    EXPECT_EQ(zu_Ntuple_copy(out.get(), b.get()), 1);
+    EXPECT_EQ(zu_Ntuple_subtract(out.get(), a.get(), out.get()), 1);
+    EXPECT_EQ(valuesOf(out), (std::vector<double>{-3, -4, -5})) << "in place";
+
+    EXPECT_EQ(zu_Ntuple_dotProduct(&product, a.get(), two.get()) + zu_Ntuple_copy(out.get(), two.get()), 0);
+    EXPECT_EQ(zu_Ntuple_add(two.get(), a.get(), b.get()) + zu_Ntuple_add(out.get(), two.get(), b.get()), 0);
+    EXPECT_EQ(zu_Ntuple_subtract(out.get(), a.get(), two.get()), 0);
+    EXPECT_EQ(product, 40);
+    EXPECT_EQ(valuesOf(out), (std::vector<double>{-3, -4, -5}));
+
+    // Summed in index order: any other order loses the small parts elsewhere.
+    const NtuplePtr mixed = ntupleOf({1e16, 1, -1e16, 1}), ones = ntupleOf({1, 1, 1, 1});
+    EXPECT_EQ(zu_Ntuple_dotProduct(&product, mixed.get(), ones.get()), 1);
+    EXPECT_EQ(product, ((1e16 + 1) - 1e16) + 1);
+    const Vector vector = {7, 8, 9};
+    EXPECT_EQ(valuesOf(NtuplePtr(zu_Ntuple_fromVector(&vector))), (std::vector<double>{7, 8, 9}));
+}
+
+TEST(Ntuple, print)
+{
+    EXPECT_EQ(printed(ntupleOf({1, 2}).get()), "1.000000, 2.000000\n");
+    EXPECT_EQ(printed(ntupleOf({-0.0000004}).get()), "-0.000000\n");
+    EXPECT_EQ(printed(ntupleOf({}).get()), "\n");
+    const Ntuple unreadable = {3, nullptr};
+    EXPECT_EQ(printed(&unreadable), " ,  ,   \n");
+    EXPECT_EQ(printed(ntupleOf({1.7976931348623157e308}).get()).size(), 309u + 7 + 1);
+    testing::internal::CaptureStdout();
+    EXPECT_EQ(zu_Ntuple_print(ntupleOf({0.5}).get(), nullptr), 1);
+    std::fflush(stdout);
+    EXPECT_EQ(testing::internal::GetCapturedStdout().substr(0, 8), "0.500000");
+}
+
+TEST(Ntuple, withoutMemory)
+{
+    int made = 0;
+    const Vector vector = {1, 2, 3};
+    Ntuple* fromVector = nullptr;
+    sweepAllocations(
+        [&] {
+            made = 0;
+            if (Ntuple* const ntuple = zu_Ntuple_create(2)) {
+                // Where the elements are missing the header is there, and refuses everything.
+                const bool whole = ntuple->elements != nullptr;
+                made = whole ? 2 : 1;
+                double value = 0;
+                EXPECT_EQ(ntuple->count, 2);
+                EXPECT_EQ(zu_Ntuple_setElement(ntuple, 0, 1), whole);
+                EXPECT_EQ(zu_Ntuple_getElement(&value, ntuple, 0), whole);
+                EXPECT_EQ(zu_Ntuple_scale(ntuple, 1), whole);
+                EXPECT_EQ(zu_Ntuple_copy(ntuple, ntuple), whole);
+                EXPECT_EQ(zu_Ntuple_destroy(ntuple), 1);
+            }
+        },
+        [&] { EXPECT_LT(made, 2); });
+    EXPECT_EQ(made, 2);
+    sweepAllocations([&] { fromVector = zu_Ntuple_fromVector(&vector); }, [&] { EXPECT_EQ(fromVector, nullptr); });
+    EXPECT_EQ(zu_Ntuple_destroy(fromVector), 1);
+}
+
+TEST(Ntuple, badInputIsRefusedAndTracedUnderTheStatedNames)
+{
+    const NtuplePtr a = ntupleOf({1, 2}), none(zu_Ntuple_create(0));
+    double number = 7;
+    EXPECT_EQ(zu_Ntuple_create(-1), nullptr);
+    ASSERT_NE(none, nullptr);
+    EXPECT_EQ(zu_Ntuple_dotProduct(&number, none.get(), none.get()), 1);
+    EXPECT_EQ(number, 0);
+    Refusals refused(ZU_DIAG_NTUPLE, "ntuple");
+    refused("zu_Ntuple_create", zu_Ntuple_create(INT32_MIN) != nullptr);
+    refused("zu_Ntuple_destroy", zu_Ntuple_destroy(nullptr));
+    refused("zu_Ntuple_setElement", zu_Ntuple_setElement(nullptr, 0, 1));
+    refused("zu_Ntuple_getElement", zu_Ntuple_getElement(&number, nullptr, 0));
+    refused("zu_Ntuple_getElement", zu_Ntuple_getElement(nullptr, a.get(), 0));
+    refused("zu_Ntuple_fromVector", zu_Ntuple_fromVector(nullptr) != nullptr);
+    refused("", zu_Ntuple_print(nullptr, stdout));
+    refused("zu_Ntuple_scale", zu_Ntuple_scale(nullptr, 2));
+    refused("zu_Ntuple_dotProduct", zu_Ntuple_dotProduct(nullptr, a.get(), a.get()));
+    refused("zu_Ntuple_dotProduct", zu_Ntuple_dotProduct(&number, a.get(), nullptr));
+    refused("zu_Ntuple_copy", zu_Ntuple_copy(nullptr, a.get()));
+    refused("", zu_Ntuple_add(a.get(), nullptr, a.get()));
+    refused("", zu_Ntuple_subtract(a.get(), a.get(), nullptr));
+    EXPECT_EQ(number, 0);
+}
+
+} // namespace

@@ -1,0 +1,107 @@
+#include "host/modules.h"
+#include "support/memory.h"
+#include "support/sandbox.h"
+#include "zu_Global.h"
+#include "zu_Sys.h"
+
+namespace {
+
+using namespace zutest;
+
+TEST(ModuleVersion, theLibraryCarriesItsOwn)
+{
+    const Wide version = widen(zu_version()) + W(".0");
+    EXPECT_EQ(str(zu_Global_getModuleFileVersion(W("zu"))), version);
+    EXPECT_EQ(str(zu_Global_getModuleProductVersion(W("ZU.DLL"))), version);
+    Wide padded;
+    for (std::size_t start = 0; start < version.size(); start += 2)
+        padded += W(".0") + version.substr(start, 1);
+    EXPECT_EQ(str(zu_Sys_getVersionNumber(W("zu"))), padded.substr(1)) << "two digits a part";
+}
+
+TEST(ModuleVersion, namesOfALoadedModule)
+{
+    const LoadedModule module("zu_test_versioned");
+    for (const Wide& name : {Wide(W("zu_test_versioned")), Wide(W("ZU_Test_Versioned.dll")), module.path()}) {
+        EXPECT_EQ(str(zu_Sys_getVersionNumber(name.c_str())), W("08.11.09.245")) << "the product's, not the file's";
+        EXPECT_EQ(str(zu_Global_getModuleFileVersion(name.c_str())), W("8.11.9.245"));
+        EXPECT_EQ(str(zu_Global_getModuleProductVersion(name.c_str())), W("8.11.\t09.beta2")) << "only blanks go";
+    }
+}
+
+TEST(ModuleVersion, onlyLoadedModulesHaveOne)
+{
+    const WideLiteral names[] = {nullptr,
+                                 W(""),
+                                 W("zu_test_versioned"),
+                                 W("zu_test_versione"),
+                                 W("libzu_test_versioned.so"),
+                                 W("C:\\no\\such\\zu.dll"),
+                                 W("Q:\\zu.dll"),
+                                 W(".dll"),
+                                 W("\xD800 \x416")};
+    for (WideLiteral name : names) {
+        EXPECT_EQ(zu_Sys_getVersionNumber(W("zu")) != nullptr, true);
+        EXPECT_EQ(zu_Sys_getVersionNumber(name), nullptr) << "the last result is gone";
+        zu_Global_getModuleFileVersion(W("zu"));
+        EXPECT_EQ(str(zu_Global_getModuleFileVersion(name)), W(""));
+        zu_Global_getModuleProductVersion(W("zu"));
+        EXPECT_EQ(str(zu_Global_getModuleProductVersion(name)), W(""));
+    }
+}
+
+TEST(ModuleVersion, aModuleWithoutOne)
+{
+    const LoadedModule module("zu_test_plain");
+    EXPECT_EQ(zu_Sys_getVersionNumber(W("zu_test_plain")), nullptr);
+    EXPECT_EQ(str(zu_Global_getModuleFileVersion(W("zu_test_plain"))), W(""));
+}
+
+#if !defined(_WIN32)
+TEST(ModuleVersion, theUsersLanguageIsPreferred)
+{
+    const LoadedModule module("zu_test_versioned");
+    const struct
+    {
+        const char* locale;
+        WideLiteral version;
+    } rows[] = {
+        {"de_DE.UTF-8", W("1.2.3.4")}, {"de_CH@euro", W("1.2.3.4")},  {"de", W("1.2.3.4")},
+        {"en_GB", W("8.11.9.245")},    {"en_US", W("8.11.9.245")},    {"C.UTF-8", W("8.11.9.245")},
+        {"fr_FR", W("8.11.9.245")},    {"xx_YY.Z@", W("8.11.9.245")},
+    };
+    for (const auto& row : rows) {
+        Sandbox sandbox;
+        sandbox.setEnvironment("LC_ALL", row.locale);
+        EXPECT_EQ(str(zu_Global_getModuleFileVersion(W("zu_test_versioned"))), row.version) << row.locale;
+        // Without an overriding setting the language is the one of LANG.
+        sandbox.setEnvironment("LC_ALL", "");
+        sandbox.setEnvironment("LC_MESSAGES", std::nullopt);
+        sandbox.setEnvironment("LANG", row.locale);
+        EXPECT_EQ(str(zu_Global_getModuleFileVersion(W("zu_test_versioned"))), row.version) << row.locale;
+    }
+}
+
+TEST(ModuleVersion, theProgramIsAModuleToo)
+{
+    const LoadedModule module("zu_test_versioned");
+    // It has no version, unlike a library of nearly its name.
+    EXPECT_EQ(zu_Sys_getVersionNumber(W("zu_test_services")), nullptr);
+    EXPECT_NE(zu_Sys_getVersionNumber(W("libzu.so.0")), nullptr);
+    EXPECT_EQ(zu_Sys_getVersionNumber(W("libzu.so.00")), nullptr);
+}
+#endif
+
+TEST(ModuleVersion, withoutMemory)
+{
+    const LoadedModule module("zu_test_versioned");
+    zu_wchar* result = nullptr;
+    sweepAllocations([&] { result = zu_Sys_getVersionNumber(module.path().c_str()); },
+                     [&] { EXPECT_EQ(result, nullptr); });
+    EXPECT_EQ(str(result), W("08.11.09.245"));
+    sweepAllocations([&] { result = zu_Global_getModuleFileVersion(module.path().c_str()); },
+                     [&] { EXPECT_EQ(str(result), W("")); });
+    EXPECT_EQ(str(result), W("8.11.9.245"));
+}
+
+} // namespace

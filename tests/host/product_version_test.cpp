@@ -1,0 +1,205 @@
+#include "host/registry.h"
+#include "support/memory.h"
+#include "zu_Sys.h"
+
+#if !defined(_WIN32)
+#    include <random>
+
+extern "C" int zuFuzzRegistry(const std::uint8_t* data, std::size_t size);
+#endif
+
+namespace {
+
+using namespace zutest;
+
+const Wide uninstall = W("Software\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\");
+
+struct Product
+{
+    WideLiteral key;
+    WideLiteral name;
+    WideLiteral version; // null: it has none
+};
+
+void install(Registry& registry, const std::vector<Product>& products)
+{
+    for (const Product& product : products) {
+        registry.addText(uninstall + product.key, W("DisplayName"), product.name);
+        if (product.version != nullptr)
+            registry.addText(uninstall + product.key, W("DisplayVersion"), product.version);
+    }
+}
+
+TEST(ProductVersion, whichProductCounts)
+{
+    // The keys are visited in alphabetical order.
+    const struct
+    {
+        const char* what;
+        std::vector<Product> products;
+        WideLiteral version;
+    } rows[] = {
+        {"none", {}, W("")},
+        {"another one", {{W("zuA"), W("zu Alph"), W("1.100")}}, W("")},
+        {"exactly, in any case", {{W("zuA"), W("ZU ALPHA"), W("1.100")}}, W("1..100")},
+        {"one that begins so", {{W("zuA"), W("zu alpha plus"), W("1.1")}}, W(".1.1")},
+        {"the last one that begins so",
+         {{W("zuA"), W("zu Alpha 1"), W("1.100")}, {W("zub"), W("zu Alpha 2"), W("2.200")}},
+         W("2..200")},
+        {"the exact one before a later one",
+         {{W("zuA"), W("zu Alpha"), W("1.100")}, {W("zuB"), W("zu Alpha 2"), W("2.200")}},
+         W("1..100")},
+        {"the exact one after others",
+         {{W("zuA"), W("zu Alpha 1"), W("1.100")}, {W("zuB"), W("zu Alpha"), W("2.200")}},
+         W("2..200")},
+        {"no other one after the 64-bit one",
+         {{W("zuA"), W("Zu Alpha - x64"), W("1.100")}, {W("zuB"), W("zu Alpha 2"), W("2.200")}},
+         W("1..100")},
+        {"the exact one after the 64-bit one",
+         {{W("zuA"), W("zu Alpha - X64"), W("1.100")}, {W("zuB"), W("zu Alpha"), W("2.200")}},
+         W("2..200")},
+        {"the exact one without a version keeps the one before",
+         {{W("zuA"), W("zu Alpha 1"), W("1.100")},
+          {W("zuB"), W("zu Alpha"), nullptr},
+          {W("zuC"), W("zu Alpha 3"), W("3.300")}},
+         W("1..100")},
+    };
+    for (const auto& row : rows) {
+        Sandbox sandbox;
+        Registry registry(sandbox);
+        registry.addKey(uninstall + W("zu0"));
+        install(registry, row.products);
+        EXPECT_EQ(str(zu_Sys_getProductVersion(W("zu Alpha"))), row.version) << row.what;
+    }
+}
+
+TEST(ProductVersion, theBuildNumberIsSeparated)
+{
+    const Wide longest(127, W('7'));
+    const struct
+    {
+        const char* what;
+        Wide stored;
+        Wide version;
+    } rows[] = {
+        {"no zero", W("8.11.09245"), W("8.11.09.245")},
+        {"a zero gives way", W("8.11.09045"), W("8.11.09.45")},
+        {"only a build number", W("245"), W(".245")},
+        {"only one with a zero", W("045"), W(".45")},
+        {"dotted already", W("8.11.9"), W("8.1.1.9")},
+        {"two characters", W("45"), W("45")},
+        {"empty", Wide(), Wide()},
+        {"256 bytes", longest, longest.substr(3) + W(".777")},
+        {"258 bytes are not read", longest + W("7"), Wide()},
+    };
+    for (const auto& row : rows) {
+        Sandbox sandbox;
+        Registry registry(sandbox);
+        install(registry, {{W("zuA"), W("zu Beta \u0416"), row.stored.c_str()}});
+        EXPECT_EQ(str(zu_Sys_getProductVersion(W("zu Beta \u0416"))), row.version) << row.what;
+    }
+}
+
+TEST(ProductVersion, valuesThatAreNoText)
+{
+    Sandbox sandbox;
+    Registry registry(sandbox);
+    install(registry, {{W("zuA"), W("zu Gamma"), nullptr}});
+    registry.addNumber(uninstall + W("zuA"), W("DisplayVersion"), 0x00310031);
+    EXPECT_EQ(str(zu_Sys_getProductVersion(W("zu Gamma"))), W(""));
+    EXPECT_EQ(zu_Sys_getProductVersion(nullptr), nullptr);
+    // A name of 128 units takes more than 256 bytes with its terminator.
+    const Wide name(128, W('g'));
+    install(registry, {{W("zuB"), name.c_str(), W("1.100")}});
+    EXPECT_EQ(str(zu_Sys_getProductVersion(name.c_str())), W(""));
+    install(registry, {{W("zuC"), name.c_str() + 1, W("1.100")}});
+    EXPECT_EQ(str(zu_Sys_getProductVersion(name.c_str() + 1)), W("1..100"));
+}
+
+TEST(ProductVersion, withoutMemory)
+{
+    Sandbox sandbox;
+    Registry registry(sandbox);
+    install(registry, {{W("zuA"), W("zu Delta"), W("1.100")}});
+    zu_wchar* result = nullptr;
+    sweepAllocations([&] { result = zu_Sys_getProductVersion(W("zu Delta")); }, [&] { EXPECT_EQ(result, nullptr); });
+    EXPECT_EQ(str(result), W("1..100"));
+}
+
+#if !defined(_WIN32)
+
+const std::string section = "\n[HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Uninstall\\{A}]\n";
+
+// What zu_Sys_getProductVersion reads for "P" from a registry text.
+Wide versionIn(std::string_view text)
+{
+    Sandbox sandbox;
+    sandbox.write(W("r.reg"), text);
+    sandbox.setEnvironment("ZU_REGISTRY", sandbox.native(W("r.reg")).string());
+    return str(zu_Sys_getProductVersion(W("P")));
+}
+
+TEST(RegistryText, forms)
+{
+    const std::string name = section + "\"DisplayName\"=\"P\"\n";
+    const struct
+    {
+        const char* what;
+        std::string text;
+        WideLiteral version;
+    } rows[] = {
+        {"plain", name + "\"DisplayVersion\"=\"ab\"", W("ab")},
+        {"marked as UTF-8", "\xEF\xBB\xBF" + name + "\"DisplayVersion\"=\"\xC3\xA4\"\r\n", W("\u00e4")},
+        {"blanks, other case", name + "  \"DISPLAYVERSION\" = \"ab\"  \r\n", W("ab")},
+        {"escapes", name + "\"DisplayVersion\"=\"\\\\\\\"\"", W("\\\"")},
+        {"comments", name + "; \"DisplayVersion\"=\"x\" \\\n\"DisplayVersion\"=\"ab\"", W("ab")},
+        {"bytes", name + "\"DisplayVersion\"=hex(2):61,00,62,00,00,00", W("ab")},
+        {"bytes over lines, without a terminator", name + "\"DisplayVersion\"=hex(1):61,\\\r\n  00, \\\r\n  62,00",
+         W("ab")},
+        {"bytes that are no bytes", name + "\"DisplayVersion\"=hex(1):61,0g", W("")},
+        {"bytes of another kind", name + "\"DisplayVersion\"=hex:61,00", W("")},
+        {"the last one counts", name + "\"DisplayVersion\"=\"a\"\n\"DisplayVersion\"=\"b\"", W("b")},
+        {"taken back", name + "\"DisplayVersion\"=\"a\"\n\"DisplayVersion\"=-", W("")},
+        {"in two places", name + section + "\"DisplayVersion\"=\"ab\"", W("ab")},
+        {"key taken back",
+         name + "\"DisplayVersion\"=\"ab\"\n[-HKEY_LOCAL_MACHINE\\software\\microsoft\\windows\\currentversion\\"
+                "uninstall\\{a}]\n\"DisplayVersion\"=\"x\"",
+         W("")},
+        {"all keys taken back", name + "[-HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft]", W("<null>")},
+        {"not the machine's", "[HKEY_CURRENT_USER" + section.substr(20) + "\"DisplayName\"=\"P\"", W("<null>")},
+        {"open text", name + "\"DisplayVersion\"=\"ab\n", W("")},
+        {"open name", name + "\"DisplayVersion\n", W("")},
+        {"open section", section.substr(0, section.size() - 2), W("<null>")},
+        {"ends in a backslash", name + "\"DisplayVersion\"=hex(1):61,00,\\", W("a")},
+        {"an empty part of a path", "[HKEY_LOCAL_MACHINE\\SOFTWARE\\\\Microsoft]", W("<null>")},
+        {"nothing", "", W("<null>")},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(versionIn(row.text), row.version) << row.what;
+}
+
+TEST(RegistryText, bothByteOrders)
+{
+    const std::string text = section + "\"DisplayName\"=\"P\"\r\n\"DisplayVersion\"=\"ab\"\r\n";
+    std::string little = "\xFF\xFE", big = "\xFE\xFF";
+    for (char unit : text) {
+        little += {unit, '\0'};
+        big += {'\0', unit};
+    }
+    EXPECT_EQ(versionIn(little), W("ab"));
+    EXPECT_EQ(versionIn(big), W("ab"));
+    EXPECT_EQ(versionIn(little + "\x5B"), W("ab")) << "half a unit at the end";
+}
+
+TEST(RegistryText, noFile)
+{
+    Sandbox sandbox;
+    sandbox.setEnvironment("ZU_REGISTRY", std::nullopt);
+    EXPECT_EQ(zu_Sys_getProductVersion(W("P")), nullptr);
+    sandbox.setEnvironment("ZU_REGISTRY", sandbox.native().string());
+    EXPECT_EQ(zu_Sys_getProductVersion(W("P")), nullptr);
+}
+
+#endif
+
+} // namespace

@@ -1,0 +1,135 @@
+#include "host/file_version_info.h"
+#include "platform/posix/version_note.h"
+#include "support/wide.h"
+
+namespace {
+
+using namespace zutest;
+using zu::CFileVersionInfo;
+using zu::Translation;
+using zu::VersionBlock;
+namespace posix = zu::posix;
+
+constexpr posix::VersionText german[] = {{u"FileVersion", u"1.2"}, {u"Comments", u"gr\u00fcn"}};
+constexpr posix::VersionText english[] = {
+    {u"CompanyName", u"A"},    {u"FileDescription", u"Bc"}, {u"FileVersion", u""},   {u"InternalName", u"Def"},
+    {u"LegalCopyright", u"G"}, {u"OriginalFilename", u"H"}, {u"ProductName", u"I"},  {u"ProductVersion", u"J"},
+    {u"Comments", u"K"},       {u"LegalTrademarks", u"L"},  {u"PrivateBuild", u"M"}, {u"SpecialBuild", u"N"}};
+constexpr posix::VersionTable tables[] = {{0x0407, 1200, german}, {0x0409, 0x04E4, english}};
+constexpr posix::VersionData data{.file = {1, 2, 3, 4}, .product = {5, 6, 7, 0xFFFF}, .tables = tables};
+
+std::string blockOf(const posix::VersionData& version)
+{
+    std::vector<unsigned char> bytes(posix::VersionBlockWriter({}).write(version));
+    posix::VersionBlockWriter(bytes).write(version);
+    return std::string(bytes.begin(), bytes.end());
+}
+
+// Where a text stands in a block, in bytes.
+std::size_t find(const std::string& block, std::u16string_view text)
+{
+    const std::string_view bytes(reinterpret_cast<const char*>(text.data()), text.size() * 2);
+    return block.find(bytes);
+}
+
+TEST(VersionBlock, everythingWrittenIsRead)
+{
+    const std::string bytes = blockOf(data);
+    const VersionBlock block(bytes);
+    const auto fixed = block.fixedInfo();
+    ASSERT_TRUE(fixed);
+    EXPECT_EQ(fixed->signature, 0xFEEF04BD);
+    EXPECT_EQ(fixed->fileVersionHigh, 0x00010002u);
+    EXPECT_EQ(fixed->fileVersionLow, 0x00030004u);
+    EXPECT_EQ(fixed->productVersionHigh, 0x00050006u);
+    EXPECT_EQ(fixed->productVersionLow, 0x0007FFFFu);
+    const auto table = block.translations();
+    ASSERT_EQ(table.size(), 2u);
+    EXPECT_EQ(table[1].language, 0x0409);
+    EXPECT_EQ(table[1].codePage, 0x04E4);
+    EXPECT_EQ(block.text({W("stringfileinfo"), W("040704b0"), W("COMMENTS")}), zu::WideString(W("gr\u00fcn")));
+    EXPECT_FALSE(block.text({W("StringFileInfo"), W("040704B0"), W("Comment")}));
+    EXPECT_FALSE(block.text({W("StringFileInfo"), W("040704B0"), W("CommentsX")}));
+    EXPECT_FALSE(block.text({W("StringFileInfo"), W("040704E4"), W("Comments")}));
+}
+
+TEST(VersionBlock, allTextsOfTheChosenLanguage)
+{
+    CFileVersionInfo info;
+    ASSERT_TRUE(info.load(blockOf(data), 0x0409));
+    const WideLiteral expected[] = {W("A"), W("Bc"), W(""),  W("Def"), W("G"), W("H"),
+                                    W("I"), W("J"),  W("K"), W("L"),   W("M"), W("N")};
+    for (std::size_t which = 0; which < std::size(expected); ++which)
+        EXPECT_EQ(info.text(static_cast<CFileVersionInfo::Text>(which)), expected[which]) << which;
+    EXPECT_EQ(info.fixedInfo().productVersionHigh, 0x00050006u);
+    // Nothing of the language before stays.
+    ASSERT_TRUE(info.load(blockOf(data), 0x0807));
+    EXPECT_EQ(info.text(CFileVersionInfo::Text::fileVersion), W("1.2"));
+    EXPECT_EQ(info.text(CFileVersionInfo::Text::companyName), W(""));
+    EXPECT_FALSE(info.load("", 0x0409));
+    EXPECT_EQ(info.text(CFileVersionInfo::Text::fileVersion), W(""));
+    EXPECT_EQ(info.fixedInfo().signature, 0u);
+}
+
+TEST(VersionBlock, choiceOfALanguage)
+{
+    const struct
+    {
+        const char* what;
+        std::uint16_t user;
+        std::vector<std::uint16_t> table;
+        std::size_t chosen;
+    } rows[] = {
+        {"the user's before its relatives", 0x0809, {0x0409, 0x0809}, 1},
+        {"a relative of the user's", 0x0C09, {0x0000, 0x0407, 0x0409, 0x0809}, 2},
+        {"a relative before neutral", 0x0807, {0x0000, 0x0407}, 1},
+        {"neutral", 0x0407, {0x0409, 0x0400, 0x0000}, 2},
+        {"nearly neutral", 0x0407, {0x0409, 0x0400}, 1},
+        {"neutral before English", 0x0407, {0x0009, 0x0000}, 1},
+        {"English itself", 0x0407, {0x040C, 0x0409, 0x0009}, 2},
+        {"any English", 0x0407, {0x040C, 0x0809, 0x0409}, 1},
+        {"the first", 0x0407, {0x040C, 0x0410}, 0},
+    };
+    for (const auto& row : rows) {
+        std::vector<Translation> table;
+        for (std::uint16_t language : row.table)
+            table.push_back({language, static_cast<std::uint16_t>(table.size())});
+        EXPECT_EQ(zu::chooseTranslation(table, row.user).codePage, row.chosen) << row.what;
+    }
+}
+
+TEST(VersionBlock, lengthsThatCountBytes)
+{
+    std::string bytes = blockOf(data);
+    // The length of the value stands four bytes before the key.
+    const std::size_t key = find(bytes, u"FileDescription");
+    bytes[key - 4] = 6;
+    EXPECT_EQ(VersionBlock(bytes).text({W("StringFileInfo"), W("040904E4"), W("FileDescription")}),
+              zu::WideString(W("Bc")));
+    bytes[key - 4] = 1;
+    EXPECT_EQ(VersionBlock(bytes).text({W("StringFileInfo"), W("040904E4"), W("FileDescription")}),
+              zu::WideString(W("B")))
+        << "without a terminator";
+}
+
+TEST(VersionBlock, fixedInformationOfAnotherSize)
+{
+    std::string bytes = blockOf(data);
+    bytes[2] = 48;
+    EXPECT_FALSE(VersionBlock(bytes).fixedInfo());
+    bytes[2] = 56;
+    EXPECT_FALSE(VersionBlock(bytes).fixedInfo());
+}
+
+TEST(VersionBlock, aBlockCutAnywhereIsNone)
+{
+    const std::string bytes = blockOf(data);
+    for (std::size_t size = 0; size < bytes.size(); ++size) {
+        const std::vector<char> cut(bytes.begin(), bytes.begin() + static_cast<std::ptrdiff_t>(size));
+        CFileVersionInfo info;
+        EXPECT_FALSE(info.load(std::string_view(cut.data(), size), 0x0409)) << size;
+        EXPECT_FALSE(VersionBlock(std::string_view(cut.data(), size)).fixedInfo()) << size;
+    }
+}
+
+} // namespace
