@@ -70,6 +70,9 @@ int32_t zu_File_move(const zu_wchar* source, const zu_wchar* destination)
     if (source == nullptr || destination == nullptr || *source == 0 || *destination == 0)
         return -1;
     const int32_t result = guarded(-1, [&] {
+        // No system puts a directory in the place of a file in one step.
+        if (platform::isDirectory(source))
+            platform::removeFile(destination);
         if (platform::replaceFile(source, destination))
             return 0;
         // Moving deletes the destination first, whatever becomes of the rest; only a source that is there keeps it.

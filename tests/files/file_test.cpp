@@ -2,6 +2,10 @@
 #include "support/memory.h"
 #include "zu_File.h"
 
+#if !defined(_WIN32)
+#    include <sys/stat.h>
+#endif
+
 namespace {
 
 using namespace zutest;
@@ -88,7 +92,24 @@ TEST(File, moveReplacesTheDestination)
     EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"d"})) << "another link to the same file";
 
     sweepAllocations([&] { move(W("d"), W("e")); }, [&] { EXPECT_EQ(sandbox.read(W("d")), "3"); });
+
+    std::filesystem::create_directory(sandbox.native(W("f")));
+    EXPECT_EQ(move(W("f"), W("e")), 0) << "a directory takes the place of a file";
+    EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"e/"}));
 }
+
+#if !defined(_WIN32)
+TEST(File, readingDoesNotWaitForTheWriterOfAPipe)
+{
+    Sandbox sandbox;
+    ASSERT_EQ(::mkfifo(sandbox.native(W("pipe")).c_str(), 0600), 0);
+    const Wide pipe = sandbox.path(W("pipe"));
+    EXPECT_EQ(zu_File_readFile(pipe.c_str()), nullptr);
+    EXPECT_EQ(zu_File_readFileExactly(pipe.c_str()), nullptr);
+    EXPECT_EQ(zu_File_copy(pipe.c_str(), sandbox.path(W("copy")).c_str()), 1);
+    EXPECT_EQ(zu_File_slice(pipe.c_str(), 10), 0);
+}
+#endif
 
 TEST(File, timesAreComparedInSeconds)
 {

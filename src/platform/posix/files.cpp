@@ -73,7 +73,10 @@ std::FILE* openFile(WideView path, const char* mode)
     const bool writes = std::strpbrk(mode, "wa+") != nullptr;
     struct stat status;
     if (::stat(native->c_str(), &status) == 0) {
-        const int refusal = S_ISDIR(status.st_mode) ? EISDIR : writes && !hasWriteBit(status) ? EACCES : 0;
+        int refusal = S_ISDIR(status.st_mode) ? EISDIR : writes && !hasWriteBit(status) ? EACCES : 0;
+        // Reading a pipe would wait for somebody who writes into it.
+        if (S_ISFIFO(status.st_mode) && !writes)
+            refusal = ENXIO;
         if (refusal != 0) {
             errno = refusal;
             return nullptr;
