@@ -10,6 +10,10 @@
  *    XDG_CONFIG_HOME names, else ".config" in the one that HOME names.
  *
  *  Its base section is "GENERAL", its application group is empty until it is set, and it has no translator.
+ *
+ *  From the first use of a service until zu_Global_destroyData its class objects of fields, collections of fields and
+ *  lists of variables are registered with COM on that thread, so that CoCreateInstance makes such objects too:
+ *  ZU_CLSID_HostField, ZU_CLSID_HostFieldCollection, ZU_CLSID_HostVariableList.
  */
 #ifndef ZU_HOST_H
 #define ZU_HOST_H

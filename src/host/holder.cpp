@@ -2,6 +2,7 @@
 
 #include "frame/host_services.h"
 #include "host/builtin/builtin.h"
+#include "host/builtin/classes.h"
 #include "zu_Host.h"
 
 #include <new>
@@ -16,6 +17,7 @@ struct Services
     ComPtr<HostTranslator> translator;
     ComPtr<IniCache> iniCache;
     ComPtr<HostFileService> fileService;
+    BuiltInClasses classes; // with the built-in application
 };
 
 Services* holder = nullptr;
@@ -32,8 +34,10 @@ Services requestServices()
 {
     Services made;
     made.application = createComponent<HostApplication>(ZU_CLSID_HostApplication);
-    if (!made.application && zu_Host_getBuiltIn() != 0)
+    if (!made.application && zu_Host_getBuiltIn() != 0) {
         made.application = makeBuiltInApplication();
+        made.classes = BuiltInClasses::registered();
+    }
     HostApplication* const application = made.application.get();
     if (application == nullptr)
         return made;

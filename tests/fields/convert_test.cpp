@@ -3,6 +3,7 @@
 #include "support/memory.h"
 #include "zu_Convert.h"
 #include "zu_DbFldList.h"
+#include "zu_File.h"
 #include "zu_FldNode.h"
 #include "zu_Global.h"
 #include "zu_Host.h"
@@ -123,21 +124,167 @@ TEST(Convert, aFieldAsText)
     zu_FldNode_updateFldValue(nullptr, W("x"));
 }
 
-TEST(Convert, descriptorsToAFieldCollectionAndBack)
+// Calls by name, which nobody makes.
+template <class Interface>
+struct Unnamed : Interface
 {
-    const ComThread com;
-    const int32_t before = zu_Host_setBuiltIn(1);
-    zu_Global_destroyData();
+    virtual ~Unnamed() = default;
+    HRESULT GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+    HRESULT GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+    HRESULT GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+    HRESULT Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override { return E_NOTIMPL; }
+};
+
+int liveObjects = 0;
+
+// An object with references, of an interface.
+template <class Interface, const IID& iid>
+struct Counted : Unnamed<Interface>
+{
+    Counted() { ++liveObjects; }
+    ~Counted() override { --liveObjects; }
+    HRESULT QueryInterface(REFIID wanted, void** object) override
+    {
+        const bool known = wanted == iid || wanted == IID_IUnknown || wanted == IID_IDispatch;
+        *object = known ? this : nullptr;
+        return known ? (AddRef(), S_OK) : E_NOINTERFACE;
+    }
+    ULONG AddRef() override { return ++references; }
+    ULONG Release() override
+    {
+        const ULONG left = --references;
+        if (left == 0)
+            delete this;
+        return left;
+    }
+    ULONG references = 0;
+};
+
+struct OwnField final : Counted<HostField, ZU_IID_HostField>
+{
+    static HRESULT give(BSTR* out, const Wide& text)
+    {
+        *out = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+        return S_OK;
+    }
+    static HRESULT take(Wide& text, BSTR from)
+    {
+        text.assign(from, SysStringLen(from));
+        return S_OK;
+    }
+    template <class T>
+    static HRESULT set(T& to, T from)
+    {
+        to = from;
+        return S_OK;
+    }
+    HRESULT get_Name(BSTR* out) override { return give(out, name); }
+    HRESULT put_Name(BSTR from) override { return take(name, from); }
+    HRESULT get_Value(BSTR* out) override { return give(out, value); }
+    HRESULT put_Value(BSTR from) override { return take(value, from); }
+    HRESULT get_Width(LONG* out) override { return set(*out, width); }
+    HRESULT put_Width(LONG from) override { return set(width, from); }
+    HRESULT get_Precision(LONG* out) override { return set(*out, precision); }
+    HRESULT put_Precision(LONG from) override { return set(precision, from); }
+    HRESULT get_Type(BSTR* out) override { return give(out, type); }
+    HRESULT put_Type(BSTR from) override { return take(type, from); }
+    HRESULT get_SecondValue(BSTR* out) override { return give(out, second); }
+    HRESULT put_SecondValue(BSTR from) override { return take(second, from); }
+    HRESULT get_IsNull(LONG* out) override { return set(*out, isNull); }
+    HRESULT put_IsNull(LONG from) override { return set(isNull, from); }
+    Wide name, value, type, second;
+    LONG width = 0, precision = 0, isNull = 0;
+};
+
+struct OwnCollection final : Counted<HostFieldCollection, ZU_IID_HostFieldCollection>
+{
+    ~OwnCollection() override
+    {
+        for (HostField* field : fields)
+            field->Release();
+    }
+    HRESULT Add(HostField* field) override
+    {
+        field->AddRef();
+        fields.push_back(field);
+        return S_OK;
+    }
+    HRESULT get_Item(VARIANT index, HostField** field) override
+    {
+        *field = fields[static_cast<std::size_t>(index.lVal - 1)];
+        (*field)->AddRef();
+        return S_OK;
+    }
+    HRESULT get_Count(LONG* count) override
+    {
+        *count = static_cast<LONG>(fields.size());
+        return S_OK;
+    }
+    HRESULT Remove(VARIANT) override { return E_NOTIMPL; }
+    std::vector<HostField*> fields;
+};
+
+// A class of the tests' own, registered in the process.
+template <class Object>
+class Registered final : public IClassFactory
+{
+public:
+    explicit Registered(const CLSID& clsid)
+    {
+        EXPECT_EQ(CoRegisterClassObject(clsid, this, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie), S_OK);
+    }
+    virtual ~Registered() { EXPECT_EQ(CoRevokeClassObject(cookie), S_OK); }
+    HRESULT QueryInterface(REFIID, void** object) override
+    {
+        *object = this;
+        return S_OK;
+    }
+    ULONG AddRef() override { return 1; }
+    ULONG Release() override { return 1; }
+    HRESULT CreateInstance(IUnknown*, REFIID iid, void** object) override
+    {
+        return (new Object)->QueryInterface(iid, object);
+    }
+    HRESULT LockServer(BOOL) override { return S_OK; }
+
+private:
+    DWORD cookie = 0;
+};
+
+// The built-in host on or off, with the state before at the end.
+class BuiltIn
+{
+public:
+    explicit BuiltIn(int32_t on) : before(zu_Host_setBuiltIn(on)) { zu_Global_destroyData(); }
+    ~BuiltIn()
+    {
+        zu_Host_setBuiltIn(before);
+        zu_Global_destroyData();
+    }
+    BuiltIn(const BuiltIn&) = delete;
+    BuiltIn& operator=(const BuiltIn&) = delete;
+
+private:
+    int32_t before;
+};
+
+void convertThereAndBack()
+{
     DbFldList* const descriptors = zu_DbFldList_create(end);
     zu_DbFldList_insEnd(descriptors, W("A"), W("\u00e4 value"), 12, 3, W('N'));
     zu_DbFldList_insEnd(descriptors, W("B"), nullptr, 5, 0, W('C'));
     VARIANT variant;
     VariantInit(&variant);
     zu_ConvertDBFldListToKVFldList(descriptors, &variant);
+    zu_DbFldList_destroy(descriptors);
     ASSERT_EQ(variant.vt, VT_DISPATCH);
-    auto* const collection = static_cast<HostFieldCollection*>(variant.pdispVal);
+    HostFieldCollection* collection = nullptr;
+    ASSERT_EQ(variant.pdispVal->QueryInterface(ZU_IID_HostFieldCollection, reinterpret_cast<void**>(&collection)),
+              S_OK);
     DbFldList* back = nullptr;
     zu_ConvertKVFldListToDBFldList(collection, &back);
+    collection->Release();
+    VariantClear(&variant);
     ASSERT_EQ(zu_DbFldList_length(back), 2u);
     const DbFldNode* const field = zu_DbFldList_getNth(back, 0);
     EXPECT_EQ(str(field->name), W("A"));
@@ -145,21 +292,33 @@ TEST(Convert, descriptorsToAFieldCollectionAndBack)
     EXPECT_EQ(field->width, 12u);
     EXPECT_EQ(field->precision, 3u);
     zu_DbFldList_destroy(back);
-    VariantClear(&variant);
-    zu_DbFldList_destroy(descriptors);
+}
 
-    zu_ConvertKVFldListToDBFldList(nullptr, &back);
-    EXPECT_EQ(back, nullptr);
-    zu_Host_setBuiltIn(0);
+TEST(Convert, descriptorsToAFieldCollectionAndBack)
+{
+    const ComThread com;
+    {
+        const BuiltIn on(1);
+        convertThereAndBack();
+    }
+    const BuiltIn off(0);
+    VARIANT variant;
     variant.vt = VT_I4;
     zu_ConvertDBFldListToKVFldList(nullptr, &variant);
     EXPECT_EQ(variant.vt, VT_I4) << "no class, no collection";
-    zu_Host_setBuiltIn(before);
-    zu_Global_destroyData();
+    {
+        const Registered<OwnField> field(ZU_CLSID_HostField);
+        const Registered<OwnCollection> collection(ZU_CLSID_HostFieldCollection);
+        convertThereAndBack();
+    }
+    EXPECT_EQ(liveObjects, 0) << "references that nobody released";
+    DbFldList* back = nullptr;
+    zu_ConvertKVFldListToDBFldList(nullptr, &back);
+    EXPECT_EQ(back, nullptr);
 }
 
 // A host's list of variables.
-class Variables final : public HostVariableList
+class Variables final : public Unnamed<HostVariableList>
 {
 public:
     struct Item
@@ -180,10 +339,6 @@ public:
     HRESULT QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
     ULONG AddRef() override { return 1; }
     ULONG Release() override { return 1; }
-    HRESULT GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-    HRESULT GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-    HRESULT GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-    HRESULT Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override { return E_NOTIMPL; }
 
     HRESULT Add(BSTR name, VARIANT value, VARIANT key) override
     {
@@ -222,19 +377,12 @@ public:
     LONG failingItem = 0;
 
 private:
-    struct Variable final : HostVariable
+    struct Variable final : Unnamed<HostVariable>
     {
         Item* item = nullptr;
         HRESULT QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
         ULONG AddRef() override { return 1; }
         ULONG Release() override { return 1; }
-        HRESULT GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
-        HRESULT GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
-        HRESULT GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
-        HRESULT Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override
-        {
-            return E_NOTIMPL;
-        }
         HRESULT get_Name(BSTR* name) override
         {
             *name = SysAllocStringLen(item->name.data(), static_cast<UINT>(item->name.size()));
@@ -333,6 +481,46 @@ TEST(Convert, fillingAndEmptyingVariables)
     EXPECT_EQ(zu_VarsList_InsertAtEnd(&variables, W("n"), W("v")), 0);
     EXPECT_THROW(zu_VarsList_Reset(&variables), _com_error);
     variables.countResult = S_OK;
+}
+
+TEST(Convert, aListOfVariablesFromTheBuiltInHost)
+{
+    const ComThread com;
+    const BuiltIn on(1);
+    HostVariableList* variables = nullptr;
+    const auto create = [&](REFIID iid) {
+        return CoCreateInstance(ZU_CLSID_HostVariableList, nullptr, CLSCTX_INPROC_SERVER, iid,
+                                reinterpret_cast<void**>(&variables));
+    };
+    EXPECT_EQ(create(ZU_IID_HostVariableList), REGDB_E_CLASSNOTREG) << "nobody has asked the host for anything yet";
+    zu_File_exists(W("C:\\"));
+    EXPECT_EQ(create(ZU_IID_HostField), E_NOINTERFACE);
+    ASSERT_EQ(create(ZU_IID_HostVariableList), S_OK);
+
+    EXPECT_EQ(zu_VarsList_InsertAtEnd(variables, W("Tag"), W("P-101")), 1);
+    EXPECT_EQ(zu_VarsList_InsertAtEnd(variables, W("Fluid"), W("K\u00fchlwasser")), 1);
+    VARIANT number = variantOf(VT_I4);
+    number.lVal = 80;
+    const Wide name = W("Size");
+    BSTR size = SysAllocString(name.c_str());
+    EXPECT_EQ(variables->Add(size, number, variantOf(VT_EMPTY)), S_OK);
+    SysFreeString(size);
+    FldList* list = nullptr;
+    zu_ConvertVarListToFldList(variables, &list);
+    const Owner fields(list);
+    EXPECT_EQ(zu_FldList_count(list), 3u);
+    EXPECT_EQ(str(zu_FldList_find(list, W("FLUID"))->value.text), W("K\u00fchlwasser"));
+    int32_t integer = 0;
+    EXPECT_EQ(zu_FldList_getInt(list, W("SIZE"), &integer), 1);
+    EXPECT_EQ(integer, 80);
+
+    EXPECT_EQ(zu_VarsList_Reset(variables), 1);
+    LONG count = 0;
+    EXPECT_EQ(variables->get_Count(&count), S_OK);
+    EXPECT_EQ(count, 1) << "the one without a key of the library's stays";
+    EXPECT_EQ(variables->Release(), 0u);
+    zu_Global_destroyData();
+    EXPECT_EQ(create(ZU_IID_HostVariableList), REGDB_E_CLASSNOTREG);
 }
 
 } // namespace
