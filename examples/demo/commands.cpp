@@ -8,17 +8,6 @@
 namespace demo {
 namespace {
 
-void print(const char* label, const zu_wchar* value)
-{
-    std::printf("%-22s %s\n", label, utf8(value).c_str());
-}
-
-int notFound(const char* what)
-{
-    std::fprintf(stderr, "zu-demo: %s\n", what);
-    return 1;
-}
-
 int getValue(const Words& words)
 {
     const zu_wchar* const value = zu_Ini_get(wide(words[1]).c_str(), wide(words[2]).c_str(), wide(words[3]).c_str());
@@ -49,21 +38,27 @@ int listGroup(const Words& words)
     return 0;
 }
 
-int printStrings(const Strings& strings, const char* whenNone)
+} // namespace
+
+int notFound(const char* what)
 {
-    if (strings == nullptr)
-        return notFound(whenNone);
-    for (zu_StrList_start(strings.get()); zu_StrList_eol(strings.get()) == 0; zu_StrList_next(strings.get()))
-        std::printf("%s\n", utf8(zu_StrList_getCurr(strings.get())).c_str());
-    return 0;
+    std::fprintf(stderr, "zu-demo: %s\n", what);
+    return 1;
 }
 
-} // namespace
+int runCommand(std::span<const Command> commands, const Words& words)
+{
+    for (const Command& command : commands) {
+        if (words.empty() || words[0] != command.name)
+            continue;
+        const Words rest(words.begin() + 1, words.end());
+        return rest.size() < command.fewest || rest.size() > command.most ? usage() : command.run(rest);
+    }
+    return usage();
+}
 
 int runExpand(const Words& words)
 {
-    if (words.empty())
-        return usage();
     for (const std::string& word : words)
         std::printf("%s\n", utf8(zu_Env_expandStr(wide(word).c_str())).c_str());
     return 0;
@@ -71,8 +66,6 @@ int runExpand(const Words& words)
 
 int runEnvironment(const Words& words)
 {
-    if (words.size() != 1)
-        return usage();
     const Wide name = wide(words[0]);
     if (const zu_wchar* const value = zu_Env_getSes(name.c_str())) {
         std::printf("%s   (session)\n", utf8(value).c_str());
@@ -109,10 +102,8 @@ int runIni(const Words& words)
     return usage();
 }
 
-int runDirectories(const Words& words)
+int runDirectories(const Words&)
 {
-    if (!words.empty())
-        return usage();
     zu_wchar buffer[ZU_SYS_PATH_SIZE + 1];
     print("configuration", zu_Sys_getCfgDir(buffer));
     print("network", zu_Sys_getNetDir(buffer));
@@ -126,8 +117,6 @@ int runDirectories(const Words& words)
 
 int runName(const Words& words)
 {
-    if (words.empty() || words.size() > 2)
-        return usage();
     const Wide path = wide(words[0]);
     Wide part(path.size() + 1, 0);
     print("absolute", zu_Fname_fullPath(path.c_str()));

@@ -1,6 +1,6 @@
 // db: tables over ODBC.
 #include "commands.h"
-#include "text.h"
+#include "table.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -10,53 +10,10 @@
 namespace demo {
 namespace {
 
-struct ReleaseRow
-{
-    void operator()(DbFldList* row) const { zu_DbFldList_destroy(row); }
-};
-using Row = std::unique_ptr<DbFldList, ReleaseRow>;
-
-struct ReleaseRows
-{
-    void operator()(DbCursor* rows) const { zu_DbCursor_destroy(rows); }
-};
-using Rows = std::unique_ptr<DbCursor, ReleaseRows>;
-
-// A table that is open as long as it lives.
-class Table
-{
-public:
-    explicit Table(const std::string& file) : handle(zu_Db_openDb(wide(file).c_str())) {}
-    ~Table()
-    {
-        if (handle >= 0)
-            zu_Db_closeDb(handle);
-    }
-    Table(const Table&) = delete;
-    Table& operator=(const Table&) = delete;
-
-    bool isOpen() const { return handle >= 0; }
-    operator int32_t() const { return handle; }
-
-private:
-    int32_t handle;
-};
-
 int failed(const std::string& what)
 {
     std::fprintf(stderr, "zu-demo: %s\n", what.c_str());
     return 1;
-}
-
-// How many columns of a terminal a text takes, for the letters that plants use.
-int columnsOf(const std::string& text)
-{
-    return static_cast<int>(std::count_if(text.begin(), text.end(), [](char byte) { return (byte & 0xC0) != 0x80; }));
-}
-
-void printPadded(const std::string& text, int width)
-{
-    std::printf("%s%*s", text.c_str(), std::max(0, width - columnsOf(text)), "");
 }
 
 // The fields of a row, for range-for.
@@ -149,7 +106,7 @@ int printRows(const Table& table, const Words& words)
     }
     for (const auto& line : lines) {
         for (std::size_t column = 0; column + 1 < line.size(); ++column)
-            printPadded(line[column], widths[column] + 2);
+            printColumn(line[column], -(widths[column] + 2));
         std::printf("%s\n", line.back().c_str());
     }
     return 0;
@@ -224,7 +181,7 @@ int runDb(const Words& words)
         const Words rest(words.begin() + 2, words.end());
         if (rest.size() < entry.fewest || rest.size() > entry.most)
             return usage();
-        const Table table(words[1]);
+        const Table table(wide(words[1]));
         return table.isOpen() ? entry.command(table, rest) : failed("cannot open " + words[1]);
     }
     return usage();

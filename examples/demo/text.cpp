@@ -1,6 +1,11 @@
 #include "text.h"
 
+#include "commands.h"
+
+#include <algorithm>
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 
 namespace demo {
 
@@ -53,6 +58,31 @@ std::string utf8(const zu_wchar* text)
         }
     }
     return bytes;
+}
+
+int columnsOf(const std::string& text)
+{
+    return static_cast<int>(std::count_if(text.begin(), text.end(), [](char byte) { return (byte & 0xC0) != 0x80; }));
+}
+
+void printColumn(const std::string& text, int width)
+{
+    const int blanks = std::max(0, std::abs(width) - columnsOf(text));
+    std::printf("%*s%s%*s", width > 0 ? blanks : 0, "", text.c_str(), width < 0 ? blanks : 0, "");
+}
+
+void print(const char* label, const zu_wchar* value)
+{
+    std::printf("%-22s %s\n", label, utf8(value).c_str());
+}
+
+int printStrings(const Strings& strings, const char* whenNone)
+{
+    if (strings == nullptr)
+        return notFound(whenNone);
+    for (zu_StrList_start(strings.get()); zu_StrList_eol(strings.get()) == 0; zu_StrList_next(strings.get()))
+        std::printf("%s\n", utf8(zu_StrList_getCurr(strings.get())).c_str());
+    return 0;
 }
 
 } // namespace demo

@@ -30,4 +30,14 @@ struct ReleaseFields
 using Strings = std::unique_ptr<StrList, ReleaseStrings>;
 using Fields = std::unique_ptr<FldList, ReleaseFields>;
 
+// How many columns of a terminal a text takes, for the letters that plants use.
+int columnsOf(const std::string& text);
+// The text in a column; a negative width puts it at the left end.
+void printColumn(const std::string& text, int width);
+
+// A label and a text behind it, on a line.
+void print(const char* label, const zu_wchar* value);
+// Each text on a line. Without a list it tells what is the matter. Returns the exit code.
+int printStrings(const Strings& strings, const char* whenNone);
+
 } // namespace demo

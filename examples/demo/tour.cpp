@@ -91,7 +91,7 @@ bool countRun(const Wide& file)
 
 } // namespace
 
-int runTour()
+int runTour(const Words&)
 {
     const Wide file = configurationFile();
     std::printf("Sample plant, configured by %s\n", utf8(file.c_str()).c_str());
