@@ -2,7 +2,7 @@
 set(CPACK_PACKAGE_NAME zu)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
 set(CPACK_PACKAGE_VENDOR "The zu maintainers")
-set(CPACK_PACKAGE_CONTACT "The zu maintainers <maintainers@users.noreply.c-seed-8f47f91d.example>")
+set(CPACK_PACKAGE_CONTACT "The zu maintainers <maintainers@zu.example>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY ${PROJECT_DESCRIPTION})
 set(CPACK_PACKAGE_DIRECTORY ${PROJECT_BINARY_DIR}/packages)
 set(CPACK_STRIP_FILES ON)
