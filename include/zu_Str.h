@@ -105,7 +105,7 @@ ZU_API zu_wchar* zu_Str_stripChars(zu_wchar* string, const zu_wchar* set, int32_
  *  @param string       null counts as empty.
  *  @param find         empty or null copies the string.
  *  @param replacement  null counts as empty.
- *  @return a static buffer of 512 units. */
+ *  @return a static buffer of 511 units. */
 ZU_API zu_wchar* zu_Str_replaceChar(const zu_wchar* string, const zu_wchar* find, const zu_wchar* replacement);
 
 /** The text between the first occurrence of a keyword and the second, which is looked for behind the first. Case

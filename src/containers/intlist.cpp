@@ -66,8 +66,11 @@ IntList* zu_IntList_copy(IntList* list)
     if (copy == nullptr || list == nullptr)
         return copy;
     bool complete = true;
-    for (const LnkNode* node = list->first; node != nullptr && complete; node = node->next)
-        complete = append(copy, static_cast<const IntListNode*>(node->data)->value);
+    for (const LnkNode* node = list->first; node != nullptr && complete; node = node->next) {
+        // Null elements, which only the generic list operations insert, have no value to copy.
+        if (const auto* const element = static_cast<const IntListNode*>(node->data))
+            complete = append(copy, element->value);
+    }
     return onlyComplete(copy, complete);
 }
 

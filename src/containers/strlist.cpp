@@ -57,8 +57,11 @@ int32_t insertCopy(StrList* list, const zu_wchar* string, Insertion insertion)
 
 int32_t compareNodes(const void* a, const void* b)
 {
-    return text::compare(text::view(static_cast<const StrListNode*>(a)->string),
-                         text::view(static_cast<const StrListNode*>(b)->string));
+    // Elements that the list's own insertions did not make may be null.
+    const auto stringOfData = [](const void* data) {
+        return data == nullptr ? WideView() : text::view(static_cast<const StrListNode*>(data)->string);
+    };
+    return text::compare(stringOfData(a), stringOfData(b));
 }
 
 bool areEqual(WideView a, WideView b, bool ignoreCase)

@@ -54,6 +54,12 @@ int32_t modifyCopy(FldList* target, const FldNode& node)
     }
 }
 
+// The same within one list, where the first field of a name has its own value already.
+int32_t modifyFirst(FldList* list, const FldNode& node)
+{
+    return zu_FldList_find(list, node.name) == &node ? ZU_FLD_OK : modifyCopy(list, node);
+}
+
 // Applies `take` to every field that source has now: it may be the target as well.
 int32_t forEachField(FldList* target, FldList* source, int32_t (*take)(FldList*, const FldNode&))
 {
@@ -76,6 +82,5 @@ int32_t zu_FldList_concatenate(FldList* target, FldList* source)
 
 int32_t zu_FldList_combine(FldList* target, FldList* source)
 {
-    // Every field is equal to itself already.
-    return target == source && target != nullptr ? 1 : forEachField(target, source, modifyCopy);
+    return forEachField(target, source, target == source ? modifyFirst : modifyCopy);
 }

@@ -6,6 +6,7 @@
 #include "zu_Diag.h"
 #include "zu_Ini.h"
 
+#include <limits>
 #include <optional>
 
 using namespace zu;
@@ -20,6 +21,11 @@ WideString prefixOf(const FldNode& node, int32_t level)
     if (level <= 0)
         return formatted(ZU_W("%-16s "), node.name);
     return WideString(17 + 3 * (static_cast<std::size_t>(level) - 1), ZU_W(' '));
+}
+
+int32_t deeper(int32_t level)
+{
+    return level < std::numeric_limits<int32_t>::max() ? level + 1 : level;
 }
 
 // Type code and value; none for a text field without a text.
@@ -63,7 +69,7 @@ void zu_FldList_printLevelList(FldList* list, int32_t level)
             writeConsole(prefixOf(node, level));
             if (node.type == ZU_FLD_LIST) {
                 writeConsole(ZU_W("\n"));
-                zu_FldList_printLevelList(node.value.list, level + 1);
+                zu_FldList_printLevelList(node.value.list, deeper(level));
             } else if (const std::optional<WideString> body = bodyOf(node)) {
                 // A text field without a text gets no line break either: meant.
                 writeConsole(*body);
@@ -80,15 +86,20 @@ void zu_FldList_printListDiag(FldList* list, int32_t diagLevel, uint32_t mask)
 
 void zu_FldList_printLevelListDiag(FldList* list, int32_t level, int32_t diagLevel, uint32_t mask)
 {
+    const auto isOn = [&] {
+        return diagLevel <= zu_Diag_getLevel() && (mask & zu_Diag_getCondition()) != 0;
+    };
     const auto put = [&](const WideString& line, uint32_t number) {
-        if (diagLevel <= zu_Diag_getLevel() && (mask & zu_Diag_getCondition()) != 0)
-            zu_Diag_putOutputMsg(line.c_str(), traceSource, number);
+        zu_Diag_putOutputMsg(line.c_str(), traceSource, number);
     };
     guarded([&] {
         forEachNamed(list, [&](const FldNode& node) {
             if (node.type == ZU_FLD_LIST) {
-                put(prefixOf(node, level), __LINE__);
-                zu_FldList_printLevelListDiag(node.value.list, level + 1, diagLevel, mask);
+                if (isOn())
+                    put(prefixOf(node, level), __LINE__);
+                zu_FldList_printLevelListDiag(node.value.list, deeper(level), diagLevel, mask);
+            } else if (!isOn()) {
+                return;
             } else if (const std::optional<WideString> body = bodyOf(node)) {
                 put(prefixOf(node, level) + *body, __LINE__);
             }

@@ -104,8 +104,9 @@ int32_t zu_Diag_setOutput(uint16_t mode, const zu_wchar* fileName)
         ZU_DiagCurrentOutput = known ? mode : uint16_t{ZU_DIAG_TO_CONSOLE};
         return known;
     }
-    zu_Diag_setFileName(fileName);
-    if (text::view(fileName).empty()) {
+    const bool isNamed = !text::view(fileName).empty();
+    zu_Diag_setFileName(fileName); // may be the old name, which is gone afterwards
+    if (!isNamed) {
         zu_Diag_setFileName(defaultFileName);
         writeConsole(zu_Msg("zu_Diag_setOutput: Diagnostics log file name specified is invalid.", "TOOL", 0));
         writeConsole(ZU_W("\n"));

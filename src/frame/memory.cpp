@@ -5,6 +5,7 @@
 #include "platform/runtime.h"
 #include "zu_Msg.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace {
@@ -84,7 +85,8 @@ void* zu_Realloc(void* block, uint64_t size)
 {
     if (block == nullptr)
         return zu_Malloc(size);
-    void* const moved = reallocateHook(block, size);
+    // A runtime's routine may release a block that is to have no size and answer null, which is the answer of a failure.
+    void* const moved = reallocateHook(block, std::max<uint64_t>(size, 1));
     if (moved == nullptr)
         noteFailure("Unable to re-allocate", size);
     return moved;

@@ -33,7 +33,7 @@ bool takeSign(WideView& text)
 double outOfRange(std::string_view number)
 {
     std::size_t index = 0;
-    long place = 0;
+    std::int64_t place = 0;
     bool significant = false;
     bool fraction = false;
     for (; index < number.size() && number[index] != 'e' && number[index] != 'E'; ++index) {
@@ -51,11 +51,13 @@ double outOfRange(std::string_view number)
         std::size_t from = index + 1;
         if (from < number.size() && number[from] == '+')
             ++from;
-        long exponent = 0;
+        std::int64_t exponent = 0;
         const auto result = std::from_chars(number.data() + from, number.data() + number.size(), exponent);
+        // Beyond the digits that any text has.
+        constexpr std::int64_t most = std::int64_t{1} << 62;
         if (result.ec == std::errc::result_out_of_range)
-            exponent = number[from] == '-' ? -1'000'000 : 1'000'000;
-        place += exponent;
+            exponent = number[from] == '-' ? -most : most;
+        place += std::clamp(exponent, -most, most);
     }
     return place > 0 ? std::numeric_limits<double>::infinity() : 0.0;
 }

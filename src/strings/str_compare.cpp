@@ -129,8 +129,11 @@ int32_t zu_Str_compareVersion(const zu_wchar* a, const zu_wchar* b)
     for (WideView component; takeComponent(restOfA, component);) {
         const double valueOfA = text::toDouble(component);
         const double valueOfB = takeComponent(restOfB, component) ? text::toDouble(component) : 0.0;
-        if (valueOfA != valueOfB)
-            return valueOfA > valueOfB ? 1 : -1;
+        // Not a number is neither, so that what follows decides.
+        if (valueOfA > valueOfB)
+            return 1;
+        if (valueOfA < valueOfB)
+            return -1;
     }
     return 0;
 }

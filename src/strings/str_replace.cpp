@@ -25,7 +25,7 @@ WideString withValue(WideView text, WideView name, WideView delimiter, WideView 
 
 zu_wchar* zu_Str_replaceChar(const zu_wchar* string, const zu_wchar* find, const zu_wchar* replacement)
 {
-    constexpr std::size_t resultSize = 512;
+    constexpr std::size_t resultSize = 511;
     static text::Buffer<resultSize> result;
     const WideView wanted = text::view(find);
     WideView rest = text::view(string);

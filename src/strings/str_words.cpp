@@ -3,6 +3,7 @@
 #include "zu_Str.h"
 
 #include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -35,13 +36,20 @@ template <std::size_t Capacity>
 struct Token
 {
     text::Buffer<Capacity> buffer;
+    text::Buffer<Capacity> ownDelimiters;
 
-    // Copies the string; false when it is too long.
-    bool hold(const zu_wchar* string)
+    // Copies the string; false when it is too long. The delimiters, null for none, may be an earlier token in the
+    // buffer.
+    bool hold(const zu_wchar* string, const zu_wchar** delimiters)
     {
         const WideView whole = text::view(string, Capacity + 1);
         if (whole.size() > Capacity)
             return false;
+        if (std::greater_equal<>()(*delimiters, buffer.units) &&
+            std::less_equal<>()(*delimiters, buffer.units + Capacity)) {
+            ownDelimiters.set(text::view(*delimiters));
+            *delimiters = ownDelimiters.units;
+        }
         buffer.set(whole);
         return true;
     }
@@ -91,7 +99,7 @@ zu_wchar* zu_Str_getNthToken(const zu_wchar* string, const zu_wchar* delimiters,
     static Token<longestString> token;
     if (position != nullptr)
         *position = -1;
-    if (string == nullptr || delimiters == nullptr || index < 0 || !token.hold(string))
+    if (string == nullptr || delimiters == nullptr || index < 0 || !token.hold(string, &delimiters))
         return nullptr;
     const WideView held = token.buffer.view();
     const WideView set(delimiters);
@@ -109,7 +117,7 @@ zu_wchar* zu_Str_getRightNthToken(const zu_wchar* string, const zu_wchar* delimi
     static Token<longestString> token;
     if (position != nullptr)
         *position = -1;
-    if (string == nullptr || index < 0 || !token.hold(string))
+    if (string == nullptr || index < 0 || !token.hold(string, &delimiters))
         return nullptr;
     WideView held = token.buffer.view();
     const WideView set = text::view(delimiters);

@@ -80,6 +80,12 @@ TEST(FldListWhole, mergingByName)
     EXPECT_EQ(zu_FldList_find(target.get(), W("b"))->type, 'C');
     EXPECT_NE(zu_FldList_find(target.get(), W("d"))->value.list, zu_FldList_find(source.get(), W("d"))->value.list);
     EXPECT_EQ(zu_FldList_combine(target.get(), target.get()), 1);
+    EXPECT_EQ(namesOf(target.get()), "A B C D ") << "with itself";
+    const Owner twice(zu_FldList_create(W("A"), 'I', 1, W("A"), 'I', 2, end));
+    EXPECT_EQ(zu_FldList_combine(twice.get(), twice.get()), 1);
+    int32_t first = 0;
+    zu_FldList_getInt(twice.get(), W("A"), &first);
+    EXPECT_EQ(first, 2) << "the later one of a name counts";
     EXPECT_EQ(zu_FldList_combine(nullptr, source.get()), 0);
     EXPECT_EQ(zu_FldList_combine(target.get(), nullptr), 0);
 }
