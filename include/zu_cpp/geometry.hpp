@@ -2,8 +2,8 @@
  *  Points, vectors, quaternions and matrices with operators. Part of zu.hpp.
  *
  *      using namespace zu::operators;
- *      const auto turn = zu::rotation::about(Vector{0, 0, 1}, zu::radians(90));
- *      const Point moved = turn.value() * Point{10, 0, 0} + Vector{0, 0, 5};
+ *      const auto turn = zu::rotation::about_z(zu::radians(90));
+ *      const Point moved = turn * Point{10, 0, 0} + Vector{0, 0, 5};
  *
  *  Points, vectors and quaternions are the public records. Their operators stand in the inline namespace zu::operators:
  *  a using-directive brings them in, and nothing is put into the global namespace.
@@ -314,13 +314,13 @@ public:
         detail::fits(zu_Ntuple_scale(out.get(), factor));
         return out;
     }
-    [[nodiscard]] friend double dot(const ntuple& a, const ntuple& b)
-    {
-        double out = 0.0;
-        detail::fits(zu_Ntuple_dotProduct(&out, a.get(), b.get()));
-        return out;
-    }
 };
+[[nodiscard]] inline double dot(const ntuple& a, const ntuple& b)
+{
+    double out = 0.0;
+    detail::fits(zu_Ntuple_dotProduct(&out, a.get(), b.get()));
+    return out;
+}
 
 /** A matrix of any size. */
 class matrix : public detail::owner<Matrix, detail::matrix_family>
@@ -383,9 +383,10 @@ public:
     [[nodiscard]] friend matrix operator*(const matrix& a, const matrix& b)
     {
         matrix out(a.rows(), b.columns());
-        const bool sizes_fit = a.columns() == b.rows();
-        if (zu_Matrix_multiply(out.get(), a.get(), b.get()) != 1)
-            detail::inserted(false, !sizes_fit ? false : a.get() != nullptr && b.get() != nullptr);
+        const bool done = zu_Matrix_multiply(out.get(), a.get(), b.get()) == 1;
+        if (!done && a && b && a.columns() == b.rows())
+            throw std::bad_alloc(); // operands that fit fail without memory alone
+        detail::fits(done ? 1 : 0);
         return out;
     }
     [[nodiscard]] friend matrix operator*(const matrix& a, double factor)
@@ -513,11 +514,6 @@ public:
         detail::fits(zu_RotMatrix_rotateVector(&vector, turn.get()));
         return vector;
     }
-    /** Whether all elements differ by less than the tolerance. */
-    [[nodiscard]] friend bool equal(const rotation& a, const rotation& b)
-    {
-        return zu_RotMatrix_equal(a.get(), b.get()) == 1;
-    }
 
 private:
     static std::optional<rotation> when(std::int32_t result, rotation& made)
@@ -525,6 +521,12 @@ private:
         return result == 1 ? std::optional<rotation>(std::move(made)) : std::nullopt;
     }
 };
+
+/** Whether all elements of two rotations differ by less than the tolerance. */
+[[nodiscard]] inline bool equal(const rotation& a, const rotation& b)
+{
+    return zu_RotMatrix_equal(a.get(), b.get()) == 1;
+}
 
 /** A rotation and a translation: p becomes R p + origin. */
 class transform : public detail::owner<TMatrix, detail::transform_family>

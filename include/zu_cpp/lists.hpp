@@ -52,6 +52,14 @@ public:
         iterator(const LnkList* whole, const LnkNode* at) noexcept : list(whole), node(at) {}
 
         reference operator*() const { return Element::read(node->data); }
+        /** The element, or a holder of it where elements are made on reading. */
+        auto operator->() const
+        {
+            if constexpr (std::is_reference_v<reference>)
+                return &**this;
+            else
+                return holder{**this};
+        }
         iterator& operator++() noexcept
         {
             node = node->next;
@@ -77,6 +85,11 @@ public:
         friend bool operator==(const iterator& a, const iterator& b) noexcept { return a.node == b.node; }
 
     private:
+        struct holder
+        {
+            reference held;
+            const reference* operator->() const noexcept { return &held; }
+        };
         const LnkList* list = nullptr;
         const LnkNode* node = nullptr;
     };
@@ -110,7 +123,7 @@ struct pointer_element
     static reference read(void* data) noexcept { return static_cast<T*>(data); }
 };
 
-/** Data that are a value, owned by the list. */
+/** Data that are a value, owned by the list, and never null. */
 template <class T>
 struct value_element
 {

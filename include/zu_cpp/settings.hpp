@@ -1,5 +1,5 @@
 /** @file zu_cpp/settings.hpp
- *  INI files, session variables, aliases and the expansion of references. Part of zu.hpp.
+ *  INI files, the configuration file, session variables, aliases and the expansion of references. Part of zu.hpp.
  *
  *      zu::ini file("D:\\plant\\pipes.ini");
  *      if (auto size = file.get("PIPE.1", "SIZE"))
@@ -119,10 +119,10 @@ namespace session {
 {
     return detail::optional_text(zu_Env_getSes(name.c_str()));
 }
-/** Sets a variable; an empty value removes it. @return whether it existed before. */
-inline bool set(const text& name, const text& value)
+/** Sets a variable; an empty value removes it. (The flat result tells whether it existed, not whether it worked.) */
+inline void set(const text& name, const text& value)
 {
-    return zu_Env_setSes(name.c_str(), value.c_str()) == 0;
+    zu_Env_setSes(name.c_str(), value.c_str());
 }
 /** Removes a variable. @return whether it existed. */
 inline bool remove(const text& name)
@@ -141,6 +141,27 @@ inline void clear()
 }
 
 } // namespace session
+
+/** The library's configuration file "zu.ini". */
+namespace config {
+
+/** @return a value with its aliases expanded, cut at 512 units; none when there is no value, or an empty one. */
+[[nodiscard]] inline std::optional<wide_string> get(const text& group, const text& key)
+{
+    return detail::optional_text(zu_Env_getIni(group.c_str(), key.c_str()));
+}
+/** Writes a value. @return whether it was written. */
+[[nodiscard]] inline bool set(const text& group, const text& key, const text& value)
+{
+    return zu_Env_setIni(group.c_str(), key.c_str(), value.c_str()) == 0;
+}
+/** A group as ini::group reads it. */
+[[nodiscard]] inline fields group(const text& name)
+{
+    return fields(adopt, zu_Env_getIniGroup(name.c_str()));
+}
+
+} // namespace config
 
 /** Aliases: what references in INI values are replaced by. They live as long as the process. */
 namespace alias {

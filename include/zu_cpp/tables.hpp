@@ -160,7 +160,7 @@ public:
             return *this;
         }
         void operator++(int) { ++*this; }
-        bool operator==(std::default_sentinel_t) const noexcept { return range->ended; }
+        bool operator==(std::default_sentinel_t) const noexcept { return range == nullptr || range->ended; }
 
     private:
         row_range* range = nullptr;

@@ -45,7 +45,7 @@ TEST(CppGeometry, firstMinusSecond)
     const zu::ntuple difference = zu::ntuple(five) - zu::ntuple(one);
     EXPECT_EQ(difference.values()[0], 4.0);
     EXPECT_EQ(difference.values()[1], 5.0);
-    EXPECT_EQ(dot(zu::ntuple(five), zu::ntuple(one)), 19.0);
+    EXPECT_EQ(zu::dot(zu::ntuple(five), zu::ntuple(one)), 19.0);
     EXPECT_EQ((zu::ntuple(five) + zu::ntuple(one) * 2).values()[1], 11.0);
     zu::matrix first(1, 2);
     first.set(0, 1, 5);
@@ -85,16 +85,16 @@ TEST(CppGeometry, rotationsTwoWays)
     const Point p{4, -5, 6};
     const auto byMatrix = *zu::rotation::about(axis, 0.7);
     const Quaternion q = *zu::quaternion_about(axis, 0.7);
-    EXPECT_TRUE(equal(byMatrix, zu::rotation(q)));
+    EXPECT_TRUE(zu::equal(byMatrix, zu::rotation(q)));
     EXPECT_EQ(shown(byMatrix * p), shown(zu::rotation(q) * p));
     // b first, then a.
     const auto quarter = zu::rotation::about_z(zu::radians(90));
     EXPECT_EQ(shown((quarter * byMatrix) * p), shown(quarter * (byMatrix * p)));
     const Quaternion quarterQ = *zu::quaternion_about({0, 0, 1}, zu::radians(90));
-    EXPECT_TRUE(equal(zu::rotation(quarterQ * q), quarter * byMatrix));
-    EXPECT_TRUE(equal(byMatrix * byMatrix.inverse(), zu::rotation()));
-    EXPECT_FALSE(equal(byMatrix, zu::rotation()));
-    EXPECT_TRUE(equal(zu::rotation(zu::conjugate(q)), byMatrix.inverse()));
+    EXPECT_TRUE(zu::equal(zu::rotation(quarterQ * q), quarter * byMatrix));
+    EXPECT_TRUE(zu::equal(byMatrix * byMatrix.inverse(), zu::rotation()));
+    EXPECT_FALSE(zu::equal(byMatrix, zu::rotation()));
+    EXPECT_TRUE(zu::equal(zu::rotation(zu::conjugate(q)), byMatrix.inverse()));
     EXPECT_EQ(shown(quarter * Vector{1, 0, 0}), "0 1000 0") << "right-handed";
     EXPECT_EQ(shown(*zu::rotation::between({1, 0, 0}, {0, 1, 0}) * Vector{1, 0, 0}), "0 1000 0");
     EXPECT_EQ(shown(zu::rotation(*zu::quaternion_between({1, 0, 0}, {0, 0, 1})) * Vector{1, 0, 0}), "0 0 1000");
@@ -110,7 +110,7 @@ TEST(CppGeometry, rowsAreRows)
     EXPECT_EQ(shown(rows.row(1)), "4000 5000 6000");
     EXPECT_EQ(shown(rows.column(1)), "2000 5000 8000");
     auto columns = zu::rotation::of_columns({1, 4, 7}, {2, 5, 8}, {3, 6, 9});
-    EXPECT_TRUE(equal(rows, columns));
+    EXPECT_TRUE(zu::equal(rows, columns));
     columns.set_row(2, {0, 0, 1});
     columns.set_column(2, {9, 9, 9});
     EXPECT_EQ(shown(columns.row(2)), "0 0 9000");
@@ -127,7 +127,7 @@ TEST(CppGeometry, transformations)
     EXPECT_EQ(shown(turned * p), "10000 1000 0");
     EXPECT_EQ(shown((lift * turned) * p), shown(lift * (turned * p)));
     EXPECT_EQ(shown((turned * lift).origin()), "10000 0 5000");
-    EXPECT_TRUE(equal(turned.turn(), zu::rotation::about_z(zu::radians(90))));
+    EXPECT_TRUE(zu::equal(turned.turn(), zu::rotation::about_z(zu::radians(90))));
     const auto between =
         zu::transform::between_systems({0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {3, 3, 0}, {3, 4, 0}, {2, 3, 0});
     EXPECT_EQ(shown(between * p), "3000 4000 0");

@@ -179,6 +179,8 @@ TEST(CppRange, standardAlgorithms)
     EXPECT_EQ(numbers.back(), 6);
 
     const auto names = zu::string_list::of("tee", "elbow", "pipe");
+    EXPECT_EQ(names.begin()->size(), 3u);
+    EXPECT_EQ(zu::point_list::of({{1, 2, 3}}).begin()->y, 2.0);
     EXPECT_EQ(std::ranges::distance(names), 3);
     EXPECT_EQ(*std::ranges::min_element(names), W("elbow"));
     EXPECT_EQ(std::ranges::next(names.begin(), 3), names.end());

@@ -123,16 +123,27 @@ TEST(CppSettings, session)
 {
     const Configured sandbox;
     EXPECT_EQ(zu::session::get("A"), std::nullopt);
-    EXPECT_FALSE(zu::session::set("A", u8"Öl")) << "it did not exist";
-    EXPECT_TRUE(zu::session::set("a", "oil"));
+    zu::session::set("A", u8"Öl");
+    EXPECT_EQ(zu::session::get("A"), W("\u00D6l"s));
+    zu::session::set("a", "oil");
     EXPECT_EQ(zu::session::get("A"), W("oil"s));
     EXPECT_EQ(zu::session::all().size(), 1u);
     EXPECT_EQ(zu::expand("100%% %A% %nothing%!"), W("100% oil !"));
     EXPECT_TRUE(zu::session::remove("A"));
     EXPECT_FALSE(zu::session::remove("A"));
-    EXPECT_FALSE(zu::session::set("B", "x"));
+    zu::session::set("B", "x");
     zu::session::clear();
     EXPECT_EQ(zu::session::get("B"), std::nullopt);
+}
+
+TEST(CppSettings, configurationFile)
+{
+    const Configured sandbox("[GENERAL]\nKV = net\n");
+    EXPECT_EQ(zu::config::get("GENERAL", "KV"), W("net"s));
+    EXPECT_EQ(zu::config::get("GENERAL", "NONE"), std::nullopt);
+    EXPECT_TRUE(zu::config::set("GENERAL", "RUNS", "1"));
+    EXPECT_EQ(*zu::config::group("GENERAL").get<std::string>("runs"), "1");
+    EXPECT_FALSE(zu::config::group("NONE"));
 }
 
 TEST(CppSettings, aliases)
