@@ -1,4 +1,5 @@
 /** @file zu_Host.h
+ *  @ingroup hostservices
  *  The library's own stand-in for the host.
  *
  *  The services of the host application object (zu_HostObjects.h) are asked of the host's component. Where that cannot
@@ -10,6 +11,9 @@
  *    XDG_CONFIG_HOME names, else ".config" in the one that HOME names.
  *
  *  Its base section is "GENERAL", its application group is empty until it is set, and it has no translator.
+ *
+ *  @par Example
+ *  @include host.c
  */
 #ifndef ZU_HOST_H
 #define ZU_HOST_H
@@ -19,7 +23,7 @@
 ZU_EXTERN_C_BEGIN
 
 /** Switches the built-in host on or off, for the time when the host's component cannot be created. A change takes
- * effect when the library asks for its host the next time: for the first time, or after zu_Global_destroyData.
+ *  effect when the library asks for its host the next time: for the first time, or after zu_Global_destroyData.
  *
  *  @param on  0 switches it off, so that every service is absent; any other value switches it on.
  *  @return the setting before the call. */
