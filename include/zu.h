@@ -1,5 +1,9 @@
 /** @file zu.h
+ *  @ingroup frame
  *  The whole interface. Each family has a header of its own, which can be included alone.
+ *
+ *  @par Example
+ *  @include zu.c
  */
 #ifndef ZU_H
 #define ZU_H

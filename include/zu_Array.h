@@ -1,4 +1,5 @@
 /** @file zu_Array.h
+ *  @ingroup containers
  *  A fixed-length array of equal-sized opaque elements, copied in and out as bytes.
  *
  *      int32_t zero = 0;
@@ -6,6 +7,9 @@
  *
  *  An element can be addressed only while its index is below the element size: see zu_Array_getAddress. Arrays longer
  *  than their elements are wide are therefore of use only at their front.
+ *
+ *  @par Example
+ *  @include array.c
  */
 #ifndef ZU_ARRAY_H
 #define ZU_ARRAY_H
@@ -49,7 +53,7 @@ ZU_API uint64_t zu_Array_size(const Array* array);
 ZU_API void* zu_Array_getNth(Array* array, uint64_t index);
 
 /** Stores a copy of value in an element, after calling destroy (may be null) on its address. An element that cannot be
- *  addressed is left alone, and destroy is not called. Traces as zu_Array_modNth.
+ *  addressed is left alone, and destroy is not called. Traces as "zu_Array_modNth".
  *  @return 0 always. */
 ZU_API int32_t zu_Array_setNth(Array* array, uint64_t index, const void* value, zu_ArrayDestroyCallback destroy);
 

@@ -1,10 +1,14 @@
 /** @file zu_Base36.h
+ *  @ingroup strings
  *  Counters written in base 36, with the digits "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ".
  *
  *      zu_wchar counter[11] = ZU_W("Z");
  *      zu_Base36_increment(counter, 1);               // "10"
  *
  *  Values are doubles from 0 to ZU_BASE36_MAX, which is 36 to the power of 9.
+ *
+ *  @par Example
+ *  @include base36.c
  */
 #ifndef ZU_BASE36_H
 #define ZU_BASE36_H

@@ -1,9 +1,13 @@
 /** @file zu_Cb.h
+ *  @ingroup tables
  *  Indexes of data files, and the number formats of their fields.
  *
  *  These operations stand on a layer that reads and writes data files itself, which this library does not contain: it
  *  answers "none" to everything. So the operations check and prepare as they always have, and then report failure. A
  *  layer that is put in later makes them work without a change for their callers.
+ *
+ *  @par Example
+ *  @include cb.c
  */
 #ifndef ZU_CB_H
 #define ZU_CB_H
@@ -12,11 +16,12 @@
 
 ZU_EXTERN_C_BEGIN
 
-/** What the data-file layer hands out: an open file, a field, a tag and an index of it. */
-typedef struct CbDataFile CbDataFile;
-typedef struct CbField CbField;
-typedef struct CbTag CbTag;
-typedef struct CbIndex CbIndex;
+/* What the data-file layer hands out. */
+
+typedef struct CbDataFile CbDataFile; /**< an open file */
+typedef struct CbField CbField;       /**< a field of it */
+typedef struct CbTag CbTag;           /**< a tag of it */
+typedef struct CbIndex CbIndex;       /**< an index of it */
 
 /** The settings of the data-file layer; all zero asks for its defaults. */
 typedef struct CbSettings
@@ -47,7 +52,7 @@ ZU_API void zu_Cb_init(CbSettings* settings);
 ZU_API int32_t zu_Cb_createNdx(const zu_wchar* path, const zu_wchar* tags, int32_t unique);
 
 /** Creates an index of an open data file with one tag for each item: tag i is named "TAG" and i in three digits, from
- * 0.
+ *  0.
  *
  *  @param name      of the index; name and expressions reach the data file as the low bytes of their units.
  *  @param tags      as for zu_Cb_parseTagInfo.
@@ -67,7 +72,7 @@ ZU_API StrList* zu_Cb_parseTagInfo(const zu_wchar* tags);
 ZU_API void zu_Cb_freeTags(CbTagInfo* tags, int32_t count);
 
 /** @return the first tag of a data file whose name equals name ignoring case, owned by the file; null when there is
- * none and for null. */
+ *  none and for null. */
 ZU_API CbTag* zu_Cb_findTag(CbDataFile* file, const zu_wchar* name);
 
 /** The real number in a fixed-length 8-bit text, in the format of the data-file layer.

@@ -1,5 +1,9 @@
 /** @file zu_Cnv.h
+ *  @ingroup geometry
  *  Angles between degrees and radians.
+ *
+ *  @par Example
+ *  @include cnv.c
  */
 #ifndef ZU_CNV_H
 #define ZU_CNV_H

@@ -1,4 +1,5 @@
 /** @file zu_Com.h
+ *  @ingroup hostservices
  *  The COM types and functions that the library and its host share.
  *
  *  On Windows this header includes the platform's own. Elsewhere it declares the same binary interface under the same
@@ -17,13 +18,17 @@
  *  automation by name beyond the shape of IDispatch.
  *
  *  In C the interfaces are opaque outside Windows: their methods cannot be called, and objects cannot be implemented.
+ *
+ *  @par Example
+ *  @include com.c
  */
 #ifndef ZU_COM_H
 #define ZU_COM_H
 
 #include "zu_Api.h"
 
-/* A constant of a header: ZU_COM_CONSTANT IID name = {...}; */
+/** @def ZU_COM_CONSTANT
+ *  A constant of a header: ZU_COM_CONSTANT IID name = {...}; */
 #if defined(__cplusplus)
 #    define ZU_COM_CONSTANT inline constexpr
 #else
@@ -44,51 +49,51 @@
 
 /* Numbers ---------------------------------------------------------------------------------------------------------- */
 
-typedef uint8_t BYTE;
-typedef uint16_t WORD;
-typedef uint16_t USHORT;
-typedef int32_t LONG;
-typedef unsigned long ULONG; /* what the ODBC headers make of it, so that both can be included; no record has one */
-typedef uint32_t DWORD;
-typedef int64_t LONGLONG;
-typedef uint64_t ULONGLONG;
-typedef unsigned int UINT;
+typedef uint8_t BYTE;        /**< 8 bits */
+typedef uint16_t WORD;       /**< 16 bits */
+typedef uint16_t USHORT;     /**< 16 bits */
+typedef int32_t LONG;        /**< 32 bits, signed */
+typedef unsigned long ULONG; /**< what the ODBC headers make of it, so that both can be included; no record has one */
+typedef uint32_t DWORD;      /**< 32 bits */
+typedef int64_t LONGLONG;    /**< 64 bits, signed */
+typedef uint64_t ULONGLONG;  /**< 64 bits */
+typedef unsigned int UINT;   /**< 32 bits */
 #    if !defined(BOOL) /* the ODBC headers make it a macro */
-typedef int BOOL;
+typedef int BOOL;            /**< 0 or 1 */
 #    endif
-typedef int32_t HRESULT;
-typedef int32_t SCODE;
-typedef uint32_t LCID;
-typedef int32_t DISPID;
+typedef int32_t HRESULT;     /**< a result: negative ones are failures */
+typedef int32_t SCODE;       /**< a result in a record */
+typedef uint32_t LCID;       /**< a locale; not used here */
+typedef int32_t DISPID;      /**< the number of a member; not used here */
 
 /** A boolean of automation: VARIANT_TRUE has all bits set. */
 typedef int16_t VARIANT_BOOL;
-ZU_COM_CONSTANT VARIANT_BOOL VARIANT_TRUE = -1;
-ZU_COM_CONSTANT VARIANT_BOOL VARIANT_FALSE = 0;
+ZU_COM_CONSTANT VARIANT_BOOL VARIANT_TRUE = -1; /**< true */
+ZU_COM_CONSTANT VARIANT_BOOL VARIANT_FALSE = 0; /**< false */
 
 /* Results: negative ones are failures. */
-ZU_COM_CONSTANT HRESULT S_OK = 0;
-ZU_COM_CONSTANT HRESULT S_FALSE = 1;
-ZU_COM_CONSTANT HRESULT E_NOTIMPL = (HRESULT)0x80004001;
-ZU_COM_CONSTANT HRESULT E_NOINTERFACE = (HRESULT)0x80004002;
-ZU_COM_CONSTANT HRESULT E_POINTER = (HRESULT)0x80004003;
-ZU_COM_CONSTANT HRESULT E_ABORT = (HRESULT)0x80004004;
-ZU_COM_CONSTANT HRESULT E_FAIL = (HRESULT)0x80004005;
-ZU_COM_CONSTANT HRESULT E_UNEXPECTED = (HRESULT)0x8000FFFF;
-ZU_COM_CONSTANT HRESULT E_ACCESSDENIED = (HRESULT)0x80070005;
-ZU_COM_CONSTANT HRESULT E_OUTOFMEMORY = (HRESULT)0x8007000E;
-ZU_COM_CONSTANT HRESULT E_INVALIDARG = (HRESULT)0x80070057;
-ZU_COM_CONSTANT HRESULT DISP_E_UNKNOWNINTERFACE = (HRESULT)0x80020001;
-ZU_COM_CONSTANT HRESULT DISP_E_MEMBERNOTFOUND = (HRESULT)0x80020003;
-ZU_COM_CONSTANT HRESULT DISP_E_TYPEMISMATCH = (HRESULT)0x80020005;
-ZU_COM_CONSTANT HRESULT DISP_E_UNKNOWNNAME = (HRESULT)0x80020006;
-ZU_COM_CONSTANT HRESULT DISP_E_BADVARTYPE = (HRESULT)0x80020008;
-ZU_COM_CONSTANT HRESULT DISP_E_BADINDEX = (HRESULT)0x8002000B;
-ZU_COM_CONSTANT HRESULT DISP_E_ARRAYISLOCKED = (HRESULT)0x8002000D;
-ZU_COM_CONSTANT HRESULT RPC_E_CHANGED_MODE = (HRESULT)0x80010106;
-ZU_COM_CONSTANT HRESULT CLASS_E_NOAGGREGATION = (HRESULT)0x80040110;
-ZU_COM_CONSTANT HRESULT REGDB_E_CLASSNOTREG = (HRESULT)0x80040154;
-ZU_COM_CONSTANT HRESULT CO_E_NOTINITIALIZED = (HRESULT)0x800401F0;
+ZU_COM_CONSTANT HRESULT S_OK = 0;                                      /**< done */
+ZU_COM_CONSTANT HRESULT S_FALSE = 1;                                   /**< done, with a reservation */
+ZU_COM_CONSTANT HRESULT E_NOTIMPL = (HRESULT)0x80004001;               /**< there is no such operation */
+ZU_COM_CONSTANT HRESULT E_NOINTERFACE = (HRESULT)0x80004002;           /**< the object lacks the interface */
+ZU_COM_CONSTANT HRESULT E_POINTER = (HRESULT)0x80004003;               /**< a null pointer */
+ZU_COM_CONSTANT HRESULT E_ABORT = (HRESULT)0x80004004;                 /**< broken off */
+ZU_COM_CONSTANT HRESULT E_FAIL = (HRESULT)0x80004005;                  /**< failed */
+ZU_COM_CONSTANT HRESULT E_UNEXPECTED = (HRESULT)0x8000FFFF;            /**< not in this state */
+ZU_COM_CONSTANT HRESULT E_ACCESSDENIED = (HRESULT)0x80070005;          /**< not allowed */
+ZU_COM_CONSTANT HRESULT E_OUTOFMEMORY = (HRESULT)0x8007000E;           /**< no memory */
+ZU_COM_CONSTANT HRESULT E_INVALIDARG = (HRESULT)0x80070057;            /**< a bad argument */
+ZU_COM_CONSTANT HRESULT DISP_E_UNKNOWNINTERFACE = (HRESULT)0x80020001; /**< no such interface */
+ZU_COM_CONSTANT HRESULT DISP_E_MEMBERNOTFOUND = (HRESULT)0x80020003;   /**< no such member */
+ZU_COM_CONSTANT HRESULT DISP_E_TYPEMISMATCH = (HRESULT)0x80020005;     /**< a value of another type */
+ZU_COM_CONSTANT HRESULT DISP_E_UNKNOWNNAME = (HRESULT)0x80020006;      /**< no such name */
+ZU_COM_CONSTANT HRESULT DISP_E_BADVARTYPE = (HRESULT)0x80020008;       /**< no such type of value */
+ZU_COM_CONSTANT HRESULT DISP_E_BADINDEX = (HRESULT)0x8002000B;         /**< no such element */
+ZU_COM_CONSTANT HRESULT DISP_E_ARRAYISLOCKED = (HRESULT)0x8002000D;    /**< the array is locked */
+ZU_COM_CONSTANT HRESULT RPC_E_CHANGED_MODE = (HRESULT)0x80010106;      /**< the thread has another concurrency */
+ZU_COM_CONSTANT HRESULT CLASS_E_NOAGGREGATION = (HRESULT)0x80040110;   /**< the class cannot be aggregated */
+ZU_COM_CONSTANT HRESULT REGDB_E_CLASSNOTREG = (HRESULT)0x80040154;     /**< the class is not registered */
+ZU_COM_CONSTANT HRESULT CO_E_NOTINITIALIZED = (HRESULT)0x800401F0;     /**< the thread is not prepared */
 
 static inline BOOL SUCCEEDED(HRESULT result)
 {
@@ -101,21 +106,23 @@ static inline BOOL FAILED(HRESULT result)
 
 /* Identifiers ------------------------------------------------------------------------------------------------------ */
 
+/** An identifier. */
 typedef struct GUID
 {
-    uint32_t Data1;
-    uint16_t Data2;
-    uint16_t Data3;
-    uint8_t Data4[8];
+    uint32_t Data1;   /**< bits 0 to 31 */
+    uint16_t Data2;   /**< 16 more */
+    uint16_t Data3;   /**< 16 more */
+    uint8_t Data4[8]; /**< the last eight bytes */
 } GUID;
-typedef GUID IID;
-typedef GUID CLSID;
+typedef GUID IID;              /**< of an interface */
+typedef GUID CLSID;            /**< of a class */
 
 #    if defined(__cplusplus)
-typedef const GUID& REFGUID;
-typedef const IID& REFIID;
-typedef const CLSID& REFCLSID;
+typedef const GUID& REFGUID;   /**< by reference; a pointer in C */
+typedef const IID& REFIID;     /**< by reference; a pointer in C */
+typedef const CLSID& REFCLSID; /**< by reference; a pointer in C */
 
+/** Compares two identifiers. */
 inline bool operator==(REFGUID a, REFGUID b)
 {
     bool equal = a.Data1 == b.Data1 && a.Data2 == b.Data2 && a.Data3 == b.Data3;
@@ -123,14 +130,17 @@ inline bool operator==(REFGUID a, REFGUID b)
         equal = equal && a.Data4[index] == b.Data4[index];
     return equal;
 }
+/** Compares two identifiers. */
 inline BOOL IsEqualGUID(REFGUID a, REFGUID b)
 {
     return a == b;
 }
+/** Compares two identifiers. */
 inline BOOL IsEqualIID(REFIID a, REFIID b)
 {
     return a == b;
 }
+/** Compares two identifiers. */
 inline BOOL IsEqualCLSID(REFCLSID a, REFCLSID b)
 {
     return a == b;
@@ -157,21 +167,22 @@ static inline BOOL IsEqualCLSID(REFCLSID a, REFCLSID b)
 }
 #    endif
 
-ZU_COM_CONSTANT GUID GUID_NULL = {0, 0, 0, {0, 0, 0, 0, 0, 0, 0, 0}};
-ZU_COM_CONSTANT IID IID_NULL = {0, 0, 0, {0, 0, 0, 0, 0, 0, 0, 0}};
-ZU_COM_CONSTANT IID IID_IUnknown = {0x00000000, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
-ZU_COM_CONSTANT IID IID_IClassFactory = {0x00000001, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
-ZU_COM_CONSTANT IID IID_IRunnableObject = {0x00000126, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
-ZU_COM_CONSTANT IID IID_IDispatch = {0x00020400, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};
-ZU_COM_CONSTANT IID IID_IErrorInfo = {0x1CF2B120, 0x547D, 0x101B, {0x8E, 0x65, 0x08, 0x00, 0x2B, 0x2B, 0xD1, 0x19}};
+ZU_COM_CONSTANT GUID GUID_NULL = {0, 0, 0, {0, 0, 0, 0, 0, 0, 0, 0}};                         /**< no identifier */
+ZU_COM_CONSTANT IID IID_NULL = {0, 0, 0, {0, 0, 0, 0, 0, 0, 0, 0}};                           /**< no interface */
+ZU_COM_CONSTANT IID IID_IUnknown = {0x00000000, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};        /**< of IUnknown */
+ZU_COM_CONSTANT IID IID_IClassFactory = {0x00000001, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};   /**< of IClassFactory */
+ZU_COM_CONSTANT IID IID_IRunnableObject = {0x00000126, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}}; /**< of IRunnableObject */
+ZU_COM_CONSTANT IID IID_IDispatch = {0x00020400, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}};       /**< of IDispatch */
+ZU_COM_CONSTANT IID IID_IErrorInfo = {
+    0x1CF2B120, 0x547D, 0x101B, {0x8E, 0x65, 0x08, 0x00, 0x2B, 0x2B, 0xD1, 0x19}}; /**< of IErrorInfo */
 ZU_COM_CONSTANT IID IID_ISupportErrorInfo = {
-    0xDF0B3D60, 0x548F, 0x101B, {0x8E, 0x65, 0x08, 0x00, 0x2B, 0x2B, 0xD1, 0x19}};
+    0xDF0B3D60, 0x548F, 0x101B, {0x8E, 0x65, 0x08, 0x00, 0x2B, 0x2B, 0xD1, 0x19}}; /**< of ISupportErrorInfo */
 
 /* Values ----------------------------------------------------------------------------------------------------------- */
 
-typedef zu_wchar OLECHAR;
-typedef OLECHAR* LPOLESTR;
-typedef const OLECHAR* LPCOLESTR;
+typedef zu_wchar OLECHAR;         /**< one unit of UTF-16 */
+typedef OLECHAR* LPOLESTR;        /**< a terminated text */
+typedef const OLECHAR* LPCOLESTR; /**< a terminated text that is only read */
 /** A counted text: its length stands in front of its first unit, and a terminator behind the last. Null is the empty
  *  text. Made by SysAllocString and its kin, released with SysFreeString. Its memory does not come from the hooks of
  *  zu_Memory.h, as it does not on Windows: a text is often made by one module and released by another, which may know
@@ -184,11 +195,12 @@ typedef struct IDispatch IDispatch;
 typedef struct IErrorInfo IErrorInfo;
 typedef struct ISupportErrorInfo ISupportErrorInfo;
 typedef struct IRunnableObject IRunnableObject;
-typedef struct ITypeInfo ITypeInfo; /* nothing of it is there */
-typedef struct IBindCtx IBindCtx;   /* nothing of it is there */
+typedef struct ITypeInfo ITypeInfo; /**< nothing of it is there */
+typedef struct IBindCtx IBindCtx;   /**< nothing of it is there */
 
 /** The type of a value. */
 typedef uint16_t VARTYPE;
+/** The types of a value, by the member of VARIANT that holds it. */
 enum VARENUM
 {
     VT_EMPTY = 0,
@@ -218,37 +230,39 @@ enum VARENUM
     VT_TYPEMASK = 0xFFF
 };
 
+/** A dimension of an array. */
 typedef struct SAFEARRAYBOUND
 {
-    uint32_t cElements;
-    LONG lLbound;
+    uint32_t cElements; /**< number of elements */
+    LONG lLbound;       /**< index of the first */
 } SAFEARRAYBOUND;
 
 /** An array of automation. Its bounds stand in reverse order: that of the last dimension first. */
 typedef struct SAFEARRAY
 {
-    USHORT cDims;
-    USHORT fFeatures;
-    uint32_t cbElements;
-    uint32_t cLocks;
-    void* pvData;
-    SAFEARRAYBOUND rgsabound[1];
+    USHORT cDims;                /**< number of dimensions */
+    USHORT fFeatures;            /**< what the elements are */
+    uint32_t cbElements;         /**< bytes an element */
+    uint32_t cLocks;             /**< number of locks */
+    void* pvData;                /**< the elements */
+    SAFEARRAYBOUND rgsabound[1]; /**< one for each dimension */
 } SAFEARRAY;
 
+/** An amount of money. */
 typedef union CY
 {
-    LONGLONG int64;
+    LONGLONG int64; /**< in units of 1/10000 */
 } CY;
-typedef double DATE;
+typedef double DATE; /**< days since 30 December 1899 */
 
 /** A value of the type in vt. Values are passed between functions and objects by VariantCopy, and end in VariantClear.
  */
 typedef struct VARIANT
 {
-    VARTYPE vt;
-    WORD wReserved1;
-    WORD wReserved2;
-    WORD wReserved3;
+    VARTYPE vt;      /**< which member counts */
+    WORD wReserved1; /**< 0 */
+    WORD wReserved2; /**< 0 */
+    WORD wReserved3; /**< 0 */
     union
     {
         LONGLONG llVal;
@@ -278,27 +292,29 @@ typedef struct VARIANT
         void* record[2]; /* keeps the size of the platform's own */
     };
 } VARIANT;
-typedef VARIANT VARIANTARG;
+typedef VARIANT VARIANTARG; /**< a value as an argument */
 
+/** The arguments of a call by name. */
 typedef struct DISPPARAMS
 {
-    VARIANTARG* rgvarg;
-    DISPID* rgdispidNamedArgs;
-    UINT cArgs;
-    UINT cNamedArgs;
+    VARIANTARG* rgvarg;        /**< the last argument first */
+    DISPID* rgdispidNamedArgs; /**< their numbers */
+    UINT cArgs;                /**< number of arguments */
+    UINT cNamedArgs;           /**< number of those with a number */
 } DISPPARAMS;
 
+/** What a call by name tells about its failure. */
 typedef struct EXCEPINFO
 {
-    WORD wCode;
-    WORD wReserved;
-    BSTR bstrSource;
-    BSTR bstrDescription;
-    BSTR bstrHelpFile;
-    DWORD dwHelpContext;
-    void* pvReserved;
-    HRESULT (*pfnDeferredFillIn)(struct EXCEPINFO*);
-    SCODE scode;
+    WORD wCode;                                      /**< not used here */
+    WORD wReserved;                                  /**< not used here */
+    BSTR bstrSource;                                 /**< not used here */
+    BSTR bstrDescription;                            /**< not used here */
+    BSTR bstrHelpFile;                               /**< not used here */
+    DWORD dwHelpContext;                             /**< not used here */
+    void* pvReserved;                                /**< not used here */
+    HRESULT (*pfnDeferredFillIn)(struct EXCEPINFO*); /**< not used here */
+    SCODE scode;                                     /**< not used here */
 } EXCEPINFO;
 
 /* Interfaces ------------------------------------------------------------------------------------------------------- */
@@ -307,28 +323,39 @@ typedef struct EXCEPINFO
 /** Objects release themselves when their last reference goes; nobody deletes one through an interface. */
 struct IUnknown
 {
+    /** Gives a new reference to another interface of the object, or null and E_NOINTERFACE. */
     virtual HRESULT QueryInterface(REFIID iid, void** object) = 0;
+    /** Adds a reference. @return their number. */
     virtual ULONG AddRef() = 0;
+    /** Gives a reference up. @return the number left. */
     virtual ULONG Release() = 0;
 
 protected:
     ~IUnknown() = default;
 };
 
+/** Makes objects of a class. */
 struct IClassFactory : public IUnknown
 {
+    /** Makes an object. @param outer  for aggregation; null in general. */
     virtual HRESULT CreateInstance(IUnknown* outer, REFIID iid, void** object) = 0;
+    /** Keeps the server running, or lets it go. */
     virtual HRESULT LockServer(BOOL lock) = 0;
 
 protected:
     ~IClassFactory() = default;
 };
 
+/** Calls by name. The library makes none: it is what the host's interfaces derive from. */
 struct IDispatch : public IUnknown
 {
+    /** Whether there are type descriptions: 0 or 1. */
     virtual HRESULT GetTypeInfoCount(UINT* count) = 0;
+    /** A type description. */
     virtual HRESULT GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) = 0;
+    /** The numbers of members. */
     virtual HRESULT GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID locale, DISPID* ids) = 0;
+    /** Calls a member by its number. */
     virtual HRESULT Invoke(DISPID id, REFIID reserved, LCID locale, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                            EXCEPINFO* exception, UINT* wrongArgument) = 0;
 
@@ -339,18 +366,25 @@ protected:
 /** What an object tells about its last failure. */
 struct IErrorInfo : public IUnknown
 {
+    /** The interface whose method failed. */
     virtual HRESULT GetGUID(GUID* iid) = 0;
+    /** The program it belongs to. */
     virtual HRESULT GetSource(BSTR* source) = 0;
+    /** What went wrong. */
     virtual HRESULT GetDescription(BSTR* description) = 0;
+    /** A help file about it. */
     virtual HRESULT GetHelpFile(BSTR* file) = 0;
+    /** The page in it. */
     virtual HRESULT GetHelpContext(DWORD* context) = 0;
 
 protected:
     ~IErrorInfo() = default;
 };
 
+/** Tells whether an object leaves an IErrorInfo behind when a method fails. */
 struct ISupportErrorInfo : public IUnknown
 {
+    /** S_OK when it does for this interface, S_FALSE when not. */
     virtual HRESULT InterfaceSupportsErrorInfo(REFIID iid) = 0;
 
 protected:
@@ -360,10 +394,15 @@ protected:
 /** An object that has to be started before it is used; see OleRun. */
 struct IRunnableObject : public IUnknown
 {
+    /** The class of the object. */
     virtual HRESULT GetRunningClass(CLSID* clsid) = 0;
+    /** Starts the object. */
     virtual HRESULT Run(IBindCtx* context) = 0;
+    /** Whether it is started. */
     virtual BOOL IsRunning() = 0;
+    /** Keeps it running, or lets it go. */
     virtual HRESULT LockRunning(BOOL lock, BOOL lastUnlockCloses) = 0;
+    /** Tells it that it is part of a document. */
     virtual HRESULT SetContainedObject(BOOL contained) = 0;
 
 protected:
@@ -512,7 +551,7 @@ ZU_API HRESULT zu_Com_VariantCopy(VARIANT* to, VARIANT* from);
  *  @param dimensions  1 to 65535.
  *  @param bounds      of each dimension, the first one first.
  *  @return a new array of zeros, released with SafeArrayDestroy; null for a bad argument or without memory. The
- * elements of the first dimension lie next to each other. */
+ *  elements of the first dimension lie next to each other. */
 ZU_API SAFEARRAY* zu_Com_SafeArrayCreate(VARTYPE type, UINT dimensions, SAFEARRAYBOUND* bounds);
 
 /** Makes an array of one dimension; see SafeArrayCreate. */
@@ -565,6 +604,7 @@ ZU_API HRESULT zu_Com_SafeArrayPutElement(SAFEARRAY* array, LONG* indices, void*
 
 ZU_EXTERN_C_END
 
+/** @cond  the usual names of the functions above */
 static inline HRESULT CoInitialize(void* reserved)
 {
     return zu_Com_CoInitialize(reserved);
@@ -707,6 +747,8 @@ static inline HRESULT SafeArrayPutElement(SAFEARRAY* array, LONG* indices, void*
     return zu_Com_SafeArrayPutElement(array, indices, element);
 }
 
+/** @endcond */
+
 /* Errors ----------------------------------------------------------------------------------------------------------- */
 
 #    if defined(__cplusplus)
@@ -721,7 +763,9 @@ public:
         if (details != nullptr && addReference)
             details->AddRef();
     }
+    /** Shares what the object told. */
     _com_error(const _com_error& other) noexcept : _com_error(other.code, other.details, true) {}
+    /** Shares what the object told. */
     _com_error& operator=(const _com_error& other) noexcept
     {
         if (other.details != nullptr)

@@ -1,4 +1,5 @@
 /** @file zu_Db.h
+ *  @ingroup tables
  *  Tables, record by record: open a table file, walk its rows, read and write fields by name. Carried out over ODBC.
  *
  *      int32_t pipes = zu_Db_openDb(ZU_W("C:\\plant\\pipes.db3"));
@@ -7,8 +8,8 @@
  *      zu_Db_closeDb(pipes);
  *
  *  A handle is one table and one result set of it. The table is named like the file without its extension; the
- * extension chooses the connection: ".db3", ".mdb" and ".accdb" one of the file's own, ".dbf" the shared data source
- * "dBase for Kelvane". Rows are lists of text fields (zu_DbFldList.h), one for each column.
+ *  extension chooses the connection: ".db3", ".mdb" and ".accdb" one of the file's own, ".dbf" the shared data source
+ *  "dBase for Kelvane". Rows are lists of text fields (zu_DbFldList.h), one for each column.
  *
  *  Navigation is forward-only underneath: going back and wrapping round read again from the top. Writing composes an
  *  INSERT or UPDATE text; a row is found again by the values of its fields that did not change, because tables need no
@@ -16,6 +17,9 @@
  *
  *  Failures are told by the result alone; failed connections and statements also write a line to standard output.
  *  Operations on handles are not for several threads at a time.
+ *
+ *  @par Example
+ *  @include db.c
  */
 #ifndef ZU_DB_H
 #define ZU_DB_H
@@ -24,7 +28,7 @@
 
 ZU_EXTERN_C_BEGIN
 
-/** Statuses of the navigation. */
+/* Statuses of the navigation. */
 #define ZU_DB_DONE 0   /**< done */
 #define ZU_DB_FAILED 1 /**< failed */
 #define ZU_DB_NO_ROW 3 /**< the end was passed, there is no row before, or the handle is unknown */
@@ -36,11 +40,11 @@ typedef struct DbFldInfo
     uint64_t rest[2]; /**< the caller's */
 } DbFldInfo;
 
-/* Tables ---------------------------------------------------------------------------------------------------------- */
+/* Tables ----------------------------------------------------------------------------------------------------------- */
 
 /** Sets the table interface up: both registries, the ODBC environment and the shared connection to the data source
  *  "dBase for Kelvane". Opening a ".dbf" table does it. Only the first call has an effect; a connection that failed is
- * not tried again. */
+ *  not tried again. */
 ZU_API void zu_Db_init(void);
 
 /** Opens a table.
@@ -63,7 +67,7 @@ ZU_API int32_t zu_Db_createDb(const zu_wchar* path, DbFldList* fields, int32_t f
 ZU_API int32_t zu_Db_closeDb(int32_t handle);
 
 /** Forgets all tables and tags; numbers start anew. Result sets that are still open are not closed, so close tables one
- * by one where it matters.
+ *  by one where it matters.
  *  @return 0: the handles are gone before they could be closed and counted, and that order is meant. */
 ZU_API int32_t zu_Db_closeAll(void);
 
@@ -85,7 +89,7 @@ ZU_API int32_t zu_Db_query(int32_t handle, void* first, void* second, void* thir
  *  ignored. */
 ZU_API void zu_Db_freeFldInfo(DbFldInfo* entries, int32_t count);
 
-/* Index tags ------------------------------------------------------------------------------------------------------ */
+/* Index tags ------------------------------------------------------------------------------------------------------- */
 
 /** Registers an index tag for a table: it tells zu_Db_seekStr which fields to look at, and orders nothing.
  *  @param name, expression  kept, not copied; the expression is a list of field names with commas and no blanks.
@@ -101,7 +105,7 @@ ZU_API int32_t zu_Db_closeNdx(int32_t tag);
 /** Not supported. @return -1. */
 ZU_API int32_t zu_Db_rendx(int32_t handle, int32_t tag);
 
-/* Navigation ------------------------------------------------------------------------------------------------------ */
+/* Navigation ------------------------------------------------------------------------------------------------------- */
 
 /** Reads the table anew and moves to its first row. Rows come in the driver's order, those of a table file named
  *  "settings.db3" in the order of the column TYP.
@@ -114,7 +118,7 @@ ZU_API int32_t zu_Db_topRec(int32_t handle, int32_t tag);
  *  says, ends the table like its end.
  *  @param tag  not used.
  *  @return ZU_DB_DONE, or ZU_DB_NO_ROW: the result set is then closed, and the next reading begins at the first row.
- * The record number stays. */
+ *  The record number stays. */
 ZU_API int32_t zu_Db_nextRec(int32_t handle, int32_t tag);
 
 /** Moves to the row before, by reading the table anew up to there.
@@ -134,7 +138,7 @@ ZU_API int32_t zu_Db_bof(int32_t handle);
  *          passed; else 0. */
 ZU_API int32_t zu_Db_eof(int32_t handle);
 
-/* Reading --------------------------------------------------------------------------------------------------------- */
+/* Reading ---------------------------------------------------------------------------------------------------------- */
 
 /** Copies the current row, opening the result set when none is open; the handle counts as read (ZU_DB_READ). In append
  *  mode the result is that of zu_Db_struct, a blank row.
@@ -160,7 +164,7 @@ ZU_API zu_wchar* zu_Db_getFldStr(int32_t handle, const zu_wchar* name);
  *  @param tag  a tag chooses the fields by its expression; any other number looks at all of them. Values are those of
  *              zu_Db_readRec.
  *  @return ZU_DB_DONE: the row is current, and the handle counts as read. ZU_DB_FAILED when there is none, for an
- * unknown handle, a null text, and in append mode. */
+ *  unknown handle, a null text, and in append mode. */
 ZU_API int32_t zu_Db_seekStr(const zu_wchar* text, int32_t handle, int32_t tag);
 
 /** Not supported. @return 0. */
@@ -172,7 +176,7 @@ ZU_API int32_t zu_Db_getFldInt(int32_t handle, const zu_wchar* field);
 /** Not supported. @return 0.0. */
 ZU_API double zu_Db_getFldDouble(int32_t handle, const zu_wchar* field);
 
-/* Writing --------------------------------------------------------------------------------------------------------- */
+/* Writing ---------------------------------------------------------------------------------------------------------- */
 
 /** Switches a table to append mode: closes its result set, and the next zu_Db_modRec inserts a row.
  *  @return ZU_DB_DONE, or ZU_DB_FAILED for an unknown handle. */
@@ -183,11 +187,11 @@ ZU_API int32_t zu_Db_appRec(int32_t handle);
  *  An insert names the fields that have a value. An update sets the fields whose values differ from the current row,
  *  wherever all its other fields that have a value are found unchanged; without a change nothing is executed, and an
  *  update that meets no row is no failure. Empty values of type N and F are written as 0.0, of type L as 0. A result
- * set that is open stays open, so read, write, next works.
+ *  set that is open stays open, so read, write, next works.
  *  @param fields  the new values by name; not changed. On success the current row has them too, cut to the columns'
  *                 widths.
  *  @return ZU_DB_DONE; ZU_DB_FAILED for an unknown handle, for null, when nothing was read and no append asked for,
- * when there is no current row, when the statement fails (the current row is then as before) and without memory. */
+ *  when there is no current row, when the statement fails (the current row is then as before) and without memory. */
 ZU_API int32_t zu_Db_modRec(int32_t handle, DbFldList* fields);
 
 /** Assigns a field of a data file, converted by its type.

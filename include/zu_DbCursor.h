@@ -1,4 +1,5 @@
 /** @file zu_DbCursor.h
+ *  @ingroup tables
  *  A list of rows, each a table name with a field list (zu_DbFldList.h).
  *
  *      DbCursor* rows = zu_DbCursor_create();
@@ -7,6 +8,9 @@
  *
  *  Rows own their field list: it is taken over, not copied. A cursor is a generic list (zu_LnkList.h) of DbCursorNode:
  *  its current position is the one there, and every operation of that header may be used on it.
+ *
+ *  @par Example
+ *  @include dbcursor.c
  */
 #ifndef ZU_DBCURSOR_H
 #define ZU_DBCURSOR_H
@@ -22,6 +26,7 @@ typedef struct DbCursorNode
     zu_wchar* tableName; /**< owned; may be null */
 } DbCursorNode;
 
+/** A generic list whose data are rows. */
 typedef LnkList DbCursor;
 
 /** @return a new empty cursor, released with zu_DbCursor_destroy; null without memory. */

@@ -1,19 +1,23 @@
 /** @file zu_DbFldList.h
+ *  @ingroup tables
  *  The record of the table interface: a list of fields, each a name with a one-letter type, a width, a number of
- * decimals and a text value. It describes the structure of a table and carries its rows both ways (zu_Db.h).
+ *  decimals and a text value. It describes the structure of a table and carries its rows both ways (zu_Db.h).
  *
  *      DbFldList* pipe = zu_DbFldList_create(ZU_W("tag"), ZU_W("P-101"), ZU_W("dn"), ZU_W("100"), NULL);
  *      zu_DbFldList_modFldVal(pipe, ZU_W("DN"), ZU_W("150"));
  *      zu_DbFldList_destroy(pipe);
  *
  *  Setting a value stores a copy without its trailing white space, for the types N and F without the leading one
- * either; a null value leaves the field without one. Widths are kept apart from the values: the readers whose names end
- * in "Padded" put the blanks back.
+ *  either; a null value leaves the field without one. Widths are kept apart from the values: the readers whose names
+ *  end in "Padded" put the blanks back.
  *
  *  A field list is a generic list (zu_LnkList.h) of DbFldNode: its cursor is the one there, and every operation of that
  *  header may be used on it. Finding a field by name leaves the cursor on it, or at the end of the list when there is
  *  none; that goes for every operation that takes a name. Texts are returned in static buffers of 512 units, one for
- * each operation, valid until its next call.
+ *  each operation, valid until its next call.
+ *
+ *  @par Example
+ *  @include dbfldlist.c
  */
 #ifndef ZU_DBFLDLIST_H
 #define ZU_DBFLDLIST_H
@@ -25,7 +29,7 @@ ZU_EXTERN_C_BEGIN
 /** Units of a field name before its terminator; longer names are cut. */
 #define ZU_DBFLD_NAME_SIZE 63
 
-/** Field types. */
+/* Field types. */
 #define ZU_DBFLD_TEXT 'C'     /**< text; the only type whose values are quoted in statements */
 #define ZU_DBFLD_NUMBER 'N'   /**< number with decimals */
 #define ZU_DBFLD_FLOAT 'F'    /**< number with decimals */
@@ -44,12 +48,13 @@ typedef struct DbFldNode
     zu_wchar type;                         /**< a field type, in upper case */
 } DbFldNode;
 
+/** A generic list whose data are fields. */
 typedef LnkList DbFldList;
 
 /** A field of the data-file layer (zu_Cb.h). */
 struct CbField;
 
-/* Making and destroying ------------------------------------------------------------------------------------------- */
+/* Making and destroying -------------------------------------------------------------------------------------------- */
 
 /** Makes a list of text fields: a name, its value, the next name, and so on up to a null name.
  *
@@ -84,7 +89,7 @@ ZU_API int32_t zu_DbFldList_delCurr(DbFldList* list);
  *  @return 1, or 0 for a null list, a null name and when there is none. Current when 1: as zu_LnkList_delCurr. */
 ZU_API int32_t zu_DbFldList_delFld(DbFldList* list, const zu_wchar* name);
 
-/* Finding --------------------------------------------------------------------------------------------------------- */
+/* Finding ---------------------------------------------------------------------------------------------------------- */
 
 /** Finds the field whose name equals the name made upper-case, so that only names stored in upper case are found.
  *  @return 1, or 0 when there is none and for null. */
@@ -94,7 +99,7 @@ ZU_API int32_t zu_DbFldList_find(DbFldList* list, const zu_wchar* name);
  *  @return the field, owned by the list; null when there is none and for a null list. A null name counts as empty. */
 ZU_API DbFldNode* zu_DbFldList_findFld(DbFldList* list, const zu_wchar* name);
 
-/* The current field ----------------------------------------------------------------------------------------------- */
+/* The current field ------------------------------------------------------------------------------------------------ */
 
 /** @return the value, cut at 512 units; the empty text without a current field or value. Static. */
 ZU_API zu_wchar* zu_DbFldList_getCurrStr(DbFldList* list);
@@ -132,7 +137,7 @@ ZU_API int32_t zu_DbFldList_modCurrWidth(DbFldList* list, int32_t width);
 /** Sets the number of decimals; the value stays. @return the old number, 0 without a current field. */
 ZU_API int32_t zu_DbFldList_modCurrPrec(DbFldList* list, int32_t precision);
 
-/* Fields by position and by name ---------------------------------------------------------------------------------- */
+/* Fields by position and by name ----------------------------------------------------------------------------------- */
 
 /** Moves to field index. @return the value as zu_DbFldList_getCurrStr, in a static buffer of its own. */
 ZU_API zu_wchar* zu_DbFldList_getNthStr(DbFldList* list, int32_t index);
@@ -151,7 +156,7 @@ ZU_API zu_wchar* zu_DbFldList_getFldVal(DbFldList* list, const zu_wchar* name);
  *          none. */
 ZU_API int32_t zu_DbFldList_modFldVal(DbFldList* list, const zu_wchar* name, const zu_wchar* value);
 
-/* Operations of the generic list ---------------------------------------------------------------------------------- */
+/* Operations of the generic list ----------------------------------------------------------------------------------- */
 
 /** See zu_LnkList_start. */
 ZU_API int32_t zu_DbFldList_start(DbFldList* list);
@@ -164,10 +169,10 @@ ZU_API uint32_t zu_DbFldList_length(DbFldList* list);
 /** See zu_LnkList_getNth. */
 ZU_API DbFldNode* zu_DbFldList_getNth(DbFldList* list, int32_t index);
 
-/* Descriptions ---------------------------------------------------------------------------------------------------- */
+/* Descriptions ----------------------------------------------------------------------------------------------------- */
 
 /** Reads a field descriptor: a name, blanks, and seven characters TWWWPPP with the type letter, the width and the
- * number of decimals, three digits each. "DIAMETER N010003" is a number of width 10 with 3 decimals.
+ *  number of decimals, three digits each. "DIAMETER N010003" is a number of width 10 with 3 decimals.
  *
  *  Name and type are made upper-case. Characters behind the seventh are ignored, fewer than seven make the line no
  *  descriptor; where digits should stand and do not, the number is 0.
@@ -184,10 +189,10 @@ ZU_API int32_t zu_DbFldList_parseFldDesc(const zu_wchar* line, zu_wchar* name, z
 ZU_API DbFldList* zu_DbFldList_fromTemplate(const zu_wchar* path);
 
 /** Prints each field to standard output: its name in 16 columns and a blank, then its type, a colon, its value and a
- * line end. A field without a value gets no line end: that is how it is meant. Current: unchanged. */
+ *  line end. A field without a value gets no line end: that is how it is meant. Current: unchanged. */
 ZU_API void zu_DbFldList_printList(DbFldList* list);
 
-/* Fields ---------------------------------------------------------------------------------------------------------- */
+/* Fields ----------------------------------------------------------------------------------------------------------- */
 
 /** Makes a field that is in no list yet.
  *  @param name   copied, cut at 63 units; null gives an empty name.

@@ -1,8 +1,12 @@
 /** @file zu_DbRef.h
+ *  @ingroup tables
  *  The two registries of the table interface, both process-wide: the handles of the open tables and the index tags.
  *
  *  Programs use zu_Db.h, which keeps them; these operations are for those that look behind it. Tags keep the pointers
- * to their texts, not copies: the caller leaves the texts in place as long as the tag is registered.
+ *  to their texts, not copies: the caller leaves the texts in place as long as the tag is registered.
+ *
+ *  @par Example
+ *  @include dbref.c
  */
 #ifndef ZU_DBREF_H
 #define ZU_DBREF_H
@@ -11,7 +15,7 @@
 
 ZU_EXTERN_C_BEGIN
 
-/** What a handle was used for last; decides what zu_Db_modRec does. */
+/* What a handle was used for last; decides what zu_Db_modRec does. */
 #define ZU_DB_OPENED 0  /**< nothing yet: nothing can be written */
 #define ZU_DB_APPEND 1  /**< zu_Db_appRec: the next write inserts a row */
 #define ZU_DB_WRITTEN 2 /**< a row was inserted: the next write updates it */
@@ -43,7 +47,7 @@ typedef struct DbTagRefNode
 struct CbDataFile;
 struct CbTag;
 
-/* Handles --------------------------------------------------------------------------------------------------------- */
+/* Handles ---------------------------------------------------------------------------------------------------------- */
 
 /** Registers a table.
  *  @param path  copied.
@@ -73,7 +77,7 @@ ZU_API DbRefNode* zu_DbRefNode_find(int32_t number);
  *  does that. Null is ignored. */
 ZU_API void zu_DbRefNode_free(DbRefNode* record);
 
-/* Tags ------------------------------------------------------------------------------------------------------------ */
+/* Tags ------------------------------------------------------------------------------------------------------------- */
 
 /** Registers a tag; note the order of the arguments, which differs from that of zu_DbTagRefNode_create.
  *  @param name, expression  kept, not copied.
@@ -91,9 +95,9 @@ ZU_API int32_t zu_DbTagRef_del(int32_t number);
 ZU_API int32_t zu_DbTagRef_update(int32_t number, const zu_wchar* name);
 
 /** Looks in a data file for the tag that a number stands for: "TAG" with the number modulo 100 in three digits, with
- * the whole number, and with the number modulo 100 in four digits, in this order.
+ *  the whole number, and with the number modulo 100 in four digits, in this order.
  *  @return the tag, owned by the data file; null when there is none, for a negative number, and always while the
- * library has no data-file layer. */
+ *  library has no data-file layer. */
 ZU_API struct CbTag* zu_DbTagRef_sel(struct CbDataFile* file, int32_t number);
 
 /** Makes a tag that is not registered, with the fields as given.

@@ -1,4 +1,5 @@
 /** @file zu_Diag.h
+ *  @ingroup frame
  *  The library's diagnostics channel: a trace level, a mask of modules, a destination, and one shared message buffer.
  *
  *  To see the calls into the list family, on the console:
@@ -11,6 +12,9 @@
  *      lnklist (251) Entering zu_LnkList_insEnd.
  *
  *  Level and mask are read again at the exit, so a change made in between shows there.
+ *
+ *  @par Example
+ *  @include diag.c
  */
 #ifndef ZU_DIAG_H
 #define ZU_DIAG_H
@@ -21,7 +25,7 @@
 
 ZU_EXTERN_C_BEGIN
 
-/** Module bits of the condition mask. */
+/* Module bits of the condition mask. */
 #define ZU_DIAG_STRLIST 0x2u       /**< string lists */
 #define ZU_DIAG_LNKLIST 0x4u       /**< generic lists */
 #define ZU_DIAG_POINT 0x8u         /**< points */
@@ -33,16 +37,16 @@ ZU_EXTERN_C_BEGIN
 #define ZU_DIAG_MSG 0x400u         /**< keyword lists and locale switching of messages, from level 2 */
 #define ZU_DIAG_TREELIST 0x200000u /**< named trees */
 
-/** Destinations. */
-#define ZU_DIAG_TO_NOTHING 0
-#define ZU_DIAG_TO_CONSOLE 1
-#define ZU_DIAG_TO_FILE 2
-#define ZU_DIAG_TO_CONSOLE_AND_FILE 3
+/* Destinations. */
+#define ZU_DIAG_TO_NOTHING 0          /**< output is dropped */
+#define ZU_DIAG_TO_CONSOLE 1          /**< standard output */
+#define ZU_DIAG_TO_FILE 2             /**< the log file */
+#define ZU_DIAG_TO_CONSOLE_AND_FILE 3 /**< both */
 
 /** Units that the shared message buffer holds before its terminator. */
 #define ZU_DIAG_MSG_SIZE 4096
 
-/** The state itself, for hosts that read and set it directly. Direct writes bypass every check of the setters. */
+/* The state itself, for hosts that read and set it directly. Direct writes bypass every check of the setters. */
 ZU_API extern int16_t ZU_DiagCurrentLevel;                  /**< 0 to 3; entries and exits need 3 */
 ZU_API extern uint32_t ZU_DiagCurrentCondition;             /**< module bits that are switched on */
 ZU_API extern uint16_t ZU_DiagCurrentOutput;                /**< destination */
@@ -79,7 +83,7 @@ ZU_API int32_t zu_Diag_setOutput(uint16_t mode, const zu_wchar* fileName);
 
 /** Tells the destination.
  *  @param fileName  receives the log file's name when the destination has a file, else the empty text; it must have
- * room for the name. Null is ignored.
+ *  room for the name. Null is ignored.
  *  @return the destination. */
 ZU_API uint16_t zu_Diag_getOutput(zu_wchar* fileName);
 

@@ -1,4 +1,5 @@
 /** @file zu_Dir.h
+ *  @ingroup files
  *  Directories and drives.
  *
  *      if (zu_Dir_exists(ZU_W("D:\\jobs\\new")) == 0 && zu_Dir_create(ZU_W("D:\\jobs\\new")) != 0)
@@ -8,10 +9,13 @@
  *  units, gives the failure value and touches nothing.
  *
  *  Names are lower-cased on purpose: directories that are made get lower-case names, and listed names come back in
- * lower case. Where the file system tells case apart, an entry is found by its name as given, and otherwise ignoring
- * case.
+ *  lower case. Where the file system tells case apart, an entry is found by its name as given, and otherwise ignoring
+ *  case.
  *
  *  The host's file service is that of zu_File.h.
+ *
+ *  @par Example
+ *  @include dir.c
  */
 #ifndef ZU_DIR_H
 #define ZU_DIR_H

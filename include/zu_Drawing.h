@@ -1,9 +1,13 @@
 /** @file zu_Drawing.h
+ *  @ingroup hostservices
  *  A switch by which one part of the host tells another to ignore that a drawing is saved.
  *
  *      zu_Drawing_IgnoreSaveEvents(drawing, 1);
  *      saveQuietly(drawing);                        // its handler asks zu_Drawing_IsSaveIgnored
  *      zu_Drawing_IgnoreSaveEvents(drawing, 0);
+ *
+ *  @par Example
+ *  @include drawing.c
  */
 #ifndef ZU_DRAWING_H
 #define ZU_DRAWING_H

@@ -1,4 +1,5 @@
 /** @file zu_Env.h
+ *  @ingroup configuration
  *  Named settings: session variables, which live as long as the process, the group "GENERAL" of the library's
  *  configuration file "zu.ini", and the process environment, in that order of precedence.
  *
@@ -6,6 +7,9 @@
  *      open(zu_Env_expandStr(ZU_W("%KVWS%\\specs\\pipe.ini")));
  *
  *  Static results are valid until the next call of the same operation. Names ignore case.
+ *
+ *  @par Example
+ *  @include env.c
  */
 #ifndef ZU_ENV_H
 #define ZU_ENV_H
@@ -15,8 +19,7 @@
 
 ZU_EXTERN_C_BEGIN
 
-/* Session variables -------------------------------------------------------------------------------------------------
- */
+/* Session variables ------------------------------------------------------------------------------------------------ */
 
 /** @return the value of a session variable, a static text of at most 512 units; null when it is not set. */
 ZU_API zu_wchar* zu_Env_getSesLocal(const zu_wchar* name);
@@ -42,8 +45,7 @@ ZU_API void zu_Env_setSesApp(void);
  *          set. Released with zu_StrList_destroy. */
 ZU_API StrList* zu_Env_getSesList(void);
 
-/* The configuration file
- * ----------------------------------------------------------------------------------------------- */
+/* The configuration file ------------------------------------------------------------------------------------------- */
 
 /** zu_Ini_get on "zu.ini": a value with its aliases expanded.
  *  @return a static text, shared with zu_Ini_get; null when there is none. */
@@ -62,13 +64,12 @@ ZU_API int32_t zu_Env_displayIniError(const zu_wchar* group, const zu_wchar* key
  *  @return a static text of at most 255 units; null when there is no value or it is empty. */
 ZU_API zu_wchar* zu_Env_getWin(const zu_wchar* file, const zu_wchar* section, const zu_wchar* key);
 
-/* Expansion
- * -------------------------------------------------------------------------------------------------------------- */
+/* Expansion -------------------------------------------------------------------------------------------------------- */
 
 /** Resolves one reference.
  *
  *  @param position  in: the index of the opening percent sign. Out: behind the closing one, or at the end of a text
- * that lacks it. Where no percent sign stands at the position it does not move.
+ *  that lacks it. Where no percent sign stands at the position it does not move.
  *  @return the value, a static text of at most 512 units; empty for "%%", for a name that nothing knows and for null
  *          arguments. */
 ZU_API zu_wchar* zu_Env_expandVar(const zu_wchar* text, int32_t* position);

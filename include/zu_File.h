@@ -1,6 +1,7 @@
 /** @file zu_File.h
+ *  @ingroup files
  *  Whole-file operations: tests, creation and deletion, copying and moving, text lines, times, enumeration, splitting
- * and joining, scrambling, and network and relative paths.
+ *  and joining, scrambling, and network and relative paths.
  *
  *      if (zu_File_copy(ZU_W("D:\\jobs\\a.dat"), ZU_W("D:\\backup\\a.dat")) != 0)
  *          report();
@@ -9,13 +10,16 @@
  *
  *  Paths are written with drive letters and backslashes on every system. A null or empty path gives the failure value
  *  and touches nothing, and so does running out of memory before anything was touched. The operations that say so
- * notify the host's file service of a path (nothing without the service); a failing call of the service leaves the
- * operation as a COM error.
+ *  notify the host's file service of a path (nothing without the service); a failing call of the service leaves the
+ *  operation as a COM error.
  *
  *  A text file is in the runtime's text mode on Windows. Elsewhere it is UTF-8: "\r\n" is read as "\n", and a byte that
  *  is no part of valid UTF-8 as one of the units U+DC80 to U+DCFF.
  *
  *  Times are whole seconds since the beginning of 1970.
+ *
+ *  @par Example
+ *  @include file.c
  */
 #ifndef ZU_FILE_H
 #define ZU_FILE_H
@@ -126,8 +130,8 @@ ZU_API int32_t zu_File_cmpTime(const zu_wchar* a, const zu_wchar* b);
  *  @param buffer   receives the line; needs room for maximum + 1 units.
  *  @param maximum  the most units to store. The rest of a longer line is skipped.
  *  @return 1; 0 when the end of the file came before any unit, and for a null argument or a negative maximum. The
- * buffer is then empty (untouched for a negative maximum). The stream stands behind the line feed afterwards; feof
- * tells whether the line ended at the end of the file. */
+ *  buffer is then empty (untouched for a negative maximum). The stream stands behind the line feed afterwards; feof
+ *  tells whether the line ended at the end of the file. */
 ZU_API int32_t zu_File_readLine(FILE* stream, zu_wchar* buffer, int32_t maximum);
 
 /** Reads the lines of a text file that are not empty, cut at 512 units, with a blank for each tab. A last line without

@@ -1,4 +1,5 @@
 /** @file zu_Fname.h
+ *  @ingroup files
  *  File names as texts: extensions, directory parts, joining, shortening for display, temporary names.
  *
  *      zu_wchar name[260] = ZU_W("D:\\specs\\pipe.txt");
@@ -10,6 +11,9 @@
  *
  *  Results in a static buffer are valid until the next call of the same operation and are cut to 512 units. A null name
  *  changes nothing.
+ *
+ *  @par Example
+ *  @include fname.c
  */
 #ifndef ZU_FNAME_H
 #define ZU_FNAME_H

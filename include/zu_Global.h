@@ -1,7 +1,11 @@
 /** @file zu_Global.h
+ *  @ingroup hostservices
  *  The library as a whole, the modules of the process, and the operating system.
  *
  *      report(zu_Global_getModuleFileVersion(ZU_W("zu")));      // 0.1.0.0
+ *
+ *  @par Example
+ *  @include global.c
  */
 #ifndef ZU_GLOBAL_H
 #define ZU_GLOBAL_H

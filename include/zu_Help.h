@@ -1,9 +1,13 @@
 /** @file zu_Help.h
+ *  @ingroup hostservices
  *  Help pages, shown by the product's help library, which is loaded when it is first needed.
  *
  *  The library "zu_HLP18AN" is taken as it is loaded already, else from the binary directory (zu_Sys_getBinDir), else
  *  from wherever the system finds libraries; it also needs the system's page viewer, the library "mshtml". Where one of
  *  them is missing the user is told, through the product's UI library "ZU_MFC18AN" or, without that one, in a box.
+ *
+ *  @par Example
+ *  @include help.c
  */
 #ifndef ZU_HELP_H
 #define ZU_HELP_H

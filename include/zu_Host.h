@@ -1,4 +1,5 @@
 /** @file zu_Host.h
+ *  @ingroup hostservices
  *  The library's own stand-in for the host.
  *
  *  The services of the host application object (zu_HostObjects.h) are asked of the host's component. Where that cannot
@@ -14,6 +15,9 @@
  *  From the first use of a service until zu_Global_destroyData its class objects of fields, collections of fields and
  *  lists of variables are registered with COM on that thread, so that CoCreateInstance makes such objects too:
  *  ZU_CLSID_HostField, ZU_CLSID_HostFieldCollection, ZU_CLSID_HostVariableList.
+ *
+ *  @par Example
+ *  @include host.c
  */
 #ifndef ZU_HOST_H
 #define ZU_HOST_H
@@ -23,7 +27,7 @@
 ZU_EXTERN_C_BEGIN
 
 /** Switches the built-in host on or off, for the time when the host's component cannot be created. A change takes
- * effect when the library asks for its host the next time: for the first time, or after zu_Global_destroyData.
+ *  effect when the library asks for its host the next time: for the first time, or after zu_Global_destroyData.
  *
  *  @param on  0 switches it off, so that every service is absent; any other value switches it on.
  *  @return the setting before the call. */

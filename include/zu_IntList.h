@@ -1,4 +1,5 @@
 /** @file zu_IntList.h
+ *  @ingroup containers
  *  A list of owned 32-bit integers.
  *
  *      IntList* list = zu_IntList_create(&first, &second, (int32_t*)NULL);
@@ -7,6 +8,9 @@
  *      zu_IntList_destroy(list);
  *
  *  An integer list is a generic list (zu_LnkList.h) whose elements are integer nodes.
+ *
+ *  @par Example
+ *  @include intlist.c
  */
 #ifndef ZU_INTLIST_H
 #define ZU_INTLIST_H
@@ -15,12 +19,13 @@
 
 ZU_EXTERN_C_BEGIN
 
+/** A generic list whose data are integer nodes. */
 typedef LnkList IntList;
 
 /** An element. */
 typedef struct IntListNode
 {
-    int32_t value;
+    int32_t value; /**< the value */
 } IntListNode;
 
 /** Makes a list of copies of the values pointed to; the pointers end with a null pointer.

@@ -1,5 +1,9 @@
 /** @file zu_Kelvane.h
+ *  @ingroup hostservices
  *  The name of the host's base section of configuration.
+ *
+ *  @par Example
+ *  @include kelvane.c
  */
 #ifndef ZU_KELVANE_H
 #define ZU_KELVANE_H

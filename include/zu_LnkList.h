@@ -1,4 +1,5 @@
 /** @file zu_LnkList.h
+ *  @ingroup containers
  *  The generic list: a doubly linked list of untyped data pointers with a current position, the cursor, in its header.
  *  Every other list of the library is one of these, so any list can be passed to these operations.
  *
@@ -9,7 +10,10 @@
  *
  *  The list never owns its data: operations that drop elements take an optional callback that frees them. Positions are
  *  zero-based. A cursor that is null stands at the end of the list ("eol"). Insertions leave a cursor where it is, and
- * do not set one, except where a comment says so.
+ *  do not set one, except where a comment says so.
+ *
+ *  @par Example
+ *  @include lnklist.c
  */
 #ifndef ZU_LNKLIST_H
 #define ZU_LNKLIST_H
@@ -74,7 +78,7 @@ ZU_API int32_t zu_LnkList_insAfter(LnkList* list, void* data);
 /** Inserts data so that it becomes element index; past the end it is appended.
  *
  *  @param index  zero-based. A negative index, and the index of an element whose data is null, inserts after the
- * current element.
+ *  current element.
  *  @return 1, or 0 for a null list or without memory.
  *  Current: the element that stood at index, or the old tail when data was appended. */
 ZU_API int32_t zu_LnkList_insNth(LnkList* list, int32_t index, void* data);
@@ -146,7 +150,7 @@ ZU_API void* zu_LnkList_getNthSavePos(LnkList* list, int32_t index);
 ZU_API void* zu_LnkList_search(LnkList* list, const void* key, zu_LnkListSearchCallback matches);
 
 /** Sorts the data by selection; the nodes and the cursor stay. Elements with null data stay where they are and are
- * never compared. Not stable. */
+ *  never compared. Not stable. */
 ZU_API void zu_LnkList_sort(LnkList* list, zu_LnkListCompareCallback compare);
 
 /** Sorts the data with about n log n comparisons; the nodes stay. Equal elements may change their order. Works in a
@@ -165,8 +169,8 @@ ZU_API void* zu_LnkList_findPivot(LnkList* list, zu_LnkListCompareCallback compa
  *
  *  The nodes of the list are cut into the two headers, whose first and last are set; their counts are not kept. The
  *  list's own first and last stay, and so does the order of the nodes. Null data is passed to the callback. A null
- * list, header or callback, and the same header twice, change nothing. Current of the list: none. Current of right: the
- * head of the list. */
+ *  list, header or callback, and the same header twice, change nothing. Current of the list: none. Current of right:
+ *  the head of the list. */
 ZU_API void zu_LnkList_partition(LnkList* list, LnkList* left, LnkList* right, void* pivot,
                                  zu_LnkListCompareCallback compare);
 

@@ -1,4 +1,5 @@
 /** @file zu_Matrix.h
+ *  @ingroup geometry
  *  Matrices of any size, stored by column: element (row, column) is element row of n-tuple column. Rotation and
  *  transformation matrices (zu_RotMatrix.h, zu_TMatrix.h) are matrices of 3 x 3 and 4 x 4.
  *
@@ -10,6 +11,9 @@
  *  Rows and columns are counted from 0. Unless a comment says otherwise: outputs come first and may be one of the
  *  inputs; the result is 1 for success and 0 for failure; a null argument, an index below 0 and an index that is not
  *  below its count give 0; after a failure the outputs are as they were.
+ *
+ *  @par Example
+ *  @include matrix.c
  */
 #ifndef ZU_MATRIX_H
 #define ZU_MATRIX_H
@@ -37,7 +41,7 @@ ZU_API int32_t zu_Matrix_destroy(Matrix* matrix);
 /** The number of rows, which is the length of column 0. @return 1; 0 for a matrix without columns. */
 ZU_API int32_t zu_Matrix_numberRows(int32_t* out, const Matrix* matrix);
 
-/** The number of columns. Traces as zu_Matrix_numberCols. */
+/** The number of columns. Traces as "zu_Matrix_numberCols". */
 ZU_API int32_t zu_Matrix_numberColumns(int32_t* out, const Matrix* matrix);
 
 /** Reads an element. */

@@ -1,10 +1,14 @@
 /** @file zu_Memory.h
+ *  @ingroup frame
  *  Memory of the library, obtained and released through four replaceable hooks.
  *
  *  Everything that the library hands out as "new" is released with zu_Free (or with the destroy operation of its
  *  family). A host that wants the library to use its own allocator installs it once, before any other call:
  *
  *      zu_MemoryManager_set(host_alloc, host_realloc, host_calloc, host_free);
+ *
+ *  @par Example
+ *  @include memory.c
  */
 #ifndef ZU_MEMORY_H
 #define ZU_MEMORY_H
@@ -13,10 +17,15 @@
 
 ZU_EXTERN_C_BEGIN
 
-/** Hooks, with the signatures of the runtime's malloc, realloc, calloc and free. */
+/* Hooks, with the signatures of the runtime's routines. */
+
+/** As malloc. */
 typedef void* (*zu_AllocateHook)(size_t size);
+/** As realloc. */
 typedef void* (*zu_ReallocateHook)(void* block, size_t size);
+/** As calloc. */
 typedef void* (*zu_ZeroAllocateHook)(size_t count, size_t elementSize);
+/** As free. */
 typedef void (*zu_ReleaseHook)(void* block);
 
 /** Replaces the allocation hooks.

@@ -1,18 +1,22 @@
 /** @file zu_Msg.h
+ *  @ingroup messages
  *  Texts for the user. The English text is its own key; a section groups texts, and a number chooses the line breaks
- * and blanks around them.
+ *  and blanks around them.
  *
  *      show(zu_Msg("Unable to open the table", "TOOL", 5));     // with a line break behind it
  *
  *  On the first request the library reads LANGUAGE and LANGUAGE_DEBUG of group "GENERAL" in "zu.ini". Where the
- * language is English (or none is set) and the debug setting is absent or "0", no translator is ever asked, and texts
- * are laid out as they are. Otherwise the host's translator is asked for each text; its answer is used as it comes, and
- * an empty one lays out the text given. The decision is made once a process. A failing call of the translator is raised
- * as a COM error.
+ *  language is English (or none is set) and the debug setting is absent or "0", no translator is ever asked, and texts
+ *  are laid out as they are. Otherwise the host's translator is asked for each text; its answer is used as it comes,
+ *  and an empty one lays out the text given. The decision is made once a process. A failing call of the translator is
+ *  raised as a COM error.
  *
  *  For the translator the number is the entry, plus one; for the local layout it is a mode of zu_Msg_format.
  *
  *  Static results have at most ZU_MSG_SIZE units and are valid until the next call of the same operation.
+ *
+ *  @par Example
+ *  @include msg.c
  */
 #ifndef ZU_MSG_H
 #define ZU_MSG_H
@@ -29,22 +33,23 @@ ZU_EXTERN_C_BEGIN
 /** A message of a list. */
 typedef struct MsgNode
 {
-    zu_wchar key[ZU_MSG_KEY_SIZE + 1];
-    zu_wchar* text; /**< owned; the message, or its translation */
-    zu_wchar section[ZU_MSG_KEY_SIZE + 1];
-    uint32_t number;  /**< layout mode, or entry plus one */
-    int32_t padWidth; /**< 0 or less: no padding */
+    zu_wchar key[ZU_MSG_KEY_SIZE + 1];     /**< by which it is found */
+    zu_wchar* text;                        /**< owned; the message, or its translation */
+    zu_wchar section[ZU_MSG_KEY_SIZE + 1]; /**< the group that the text belongs to */
+    uint32_t number;                       /**< layout mode, or entry plus one */
+    int32_t padWidth;                      /**< 0 or less: no padding */
 } MsgNode;
 
+/** A generic list whose data are messages. */
 typedef LnkList MsgList;
 
 /** A message of an array; a null or empty key ends the array. */
 typedef struct MsgRecord
 {
-    const zu_wchar* key;
-    const zu_wchar* text;
-    const zu_wchar* section;
-    uint32_t number;
+    const zu_wchar* key;     /**< by which it is found */
+    const zu_wchar* text;    /**< the message */
+    const zu_wchar* section; /**< the group that the text belongs to */
+    uint32_t number;         /**< layout mode, or entry plus one */
 } MsgRecord;
 
 /** A keyword and its translation. */
@@ -54,10 +59,10 @@ typedef struct MsgKeyWordListNode
     zu_wchar* translation; /**< owned */
 } MsgKeyWordListNode;
 
+/** A generic list whose data are pairs. */
 typedef LnkList MsgKeyWordList;
 
-/* Single texts --------------------------------------------------------------------------------------------------------
- */
+/* Single texts ----------------------------------------------------------------------------------------------------- */
 
 /** The text to show for an English text.
  *
@@ -97,24 +102,23 @@ ZU_API zu_wchar* zu_Msg_scanEsc(zu_wchar* text);
  *  @return 1 when there are two words, else 0. */
 ZU_API int32_t zu_Msg_breakStr(const zu_wchar* text, zu_wchar* first, zu_wchar* second);
 
-/* Many texts
- * ------------------------------------------------------------------------------------------------------------- */
+/* Many texts ------------------------------------------------------------------------------------------------------- */
 
 /** @return a new node with copies of the texts, key and section cut at 16 units; null without memory. A list releases
- * it with zu_MsgList_destroy. */
+ *  it with zu_MsgList_destroy. */
 ZU_API MsgNode* zu_MsgNode_create(const zu_wchar* key, const zu_wchar* text, const zu_wchar* section, uint32_t number,
                                   int32_t padWidth);
 
 /** Replaces the text of every node that has a text and a section by its translation, padded to the node's width. An
- * answer that begins with "^" leaves the node as it is.
+ *  answer that begins with "^" leaves the node as it is.
  *  @return 1 always. Current: none. */
 ZU_API int32_t zu_Msg_multiple(MsgList* list);
 
 /** Makes a list of the messages given and translates it.
  *
  *  The arguments are key, text, section, number; next key; and so on. A null key or text ends them. A null section is
- * not followed by a number: the one before counts, 0 at first. After a message whose number is 0 no key follows: the
- * next one has the same.
+ *  not followed by a number: the one before counts, 0 at first. After a message whose number is 0 no key follows: the
+ *  next one has the same.
  *  @return a new list, released with zu_MsgList_destroy; null without memory. Current: none. */
 ZU_API MsgList* zu_Msg_mlt(const zu_wchar* key, ...);
 
@@ -129,14 +133,13 @@ ZU_API zu_wchar* zu_Msg_find(MsgList* list, const zu_wchar* key);
 /** Destroys a list with its nodes. @return 1, or 0 for null. */
 ZU_API int32_t zu_MsgList_destroy(MsgList* list);
 
-/* Keywords
- * --------------------------------------------------------------------------------------------------------------- */
+/* Keywords --------------------------------------------------------------------------------------------------------- */
 
 /** Translates keywords that commas separate.
  *
  *  The translation is separated by commas too, or, where LANGUAGE is set and the file "SEP_<language>.dbf" exists in
- * the directory "Language" of the network directory, by the translation of "," in section "SEP". Where LANG_LOCALE is
- * set the process locale is switched to it, and stays so.
+ *  the directory "Language" of the network directory, by the translation of "," in section "SEP". Where LANG_LOCALE is
+ *  set the process locale is switched to it, and stays so.
  *  @return a new list of pairs, released with zu_MsgKeyWordList_destroy. An empty one when the translation of several
  *          keywords holds no separator; null when there is no pair otherwise, for null arguments and without memory. */
 ZU_API MsgKeyWordList* zu_Msg_getKeyWordList(const zu_wchar* keywords, const zu_wchar* section, int32_t ignored);
@@ -160,8 +163,7 @@ ZU_API MsgKeyWordListNode* zu_MsgKeyWordListNode_create(const zu_wchar* source, 
 /** Destroys a pair. @return 1, or 0 for null. */
 ZU_API int32_t zu_MsgKeyWordListNode_destroy(void* node);
 
-/* The message database
- * ---------------------------------------------------------------------------------------------------- */
+/* The message database --------------------------------------------------------------------------------------------- */
 
 /** Not available: the message database is read by the translator alone. Raises a std::runtime_error with the text
  *  "TODO64". */

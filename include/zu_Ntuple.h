@@ -1,4 +1,5 @@
 /** @file zu_Ntuple.h
+ *  @ingroup geometry
  *  N-tuples: counted arrays of numbers. The columns of a matrix (zu_Matrix.h) are n-tuples.
  *
  *      Ntuple* weights = zu_Ntuple_create(4);
@@ -8,6 +9,9 @@
  *  Indices are zero-based. Unless a comment says otherwise: outputs come first and may be one of the inputs; the result
  *  is 1 for success and 0 for failure; a null argument, an index below 0 and an index that is not below the count give
  *  0; after a failure the outputs are as they were.
+ *
+ *  @par Example
+ *  @include ntuple.c
  */
 #ifndef ZU_NTUPLE_H
 #define ZU_NTUPLE_H

@@ -1,10 +1,14 @@
 /** @file zu_Plane.h
+ *  @ingroup geometry
  *  Planes: a point of the plane and its normal, in the record of a ray (zu_Ray.h).
  *
  *      if (zu_Plane_intersectionWithRay(&hit, plane, ray) == 1)
  *          use(&hit);
  *
  *  Results and null rules are those of zu_Ray.h. Nothing traces.
+ *
+ *  @par Example
+ *  @include plane.c
  */
 #ifndef ZU_PLANE_H
 #define ZU_PLANE_H

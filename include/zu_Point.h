@@ -1,4 +1,5 @@
 /** @file zu_Point.h
+ *  @ingroup geometry
  *  Points in space: values of three coordinates, and what can be asked about points and lines.
  *
  *      Point a, b, foot;
@@ -15,6 +16,9 @@
  *
  *  The tolerance of the family is ZU_GEOMETRY_TOLERANCE. All tolerances are applied with strict less-than: a difference
  *  of exactly the tolerance lies outside. A tolerance of 0 or below, or one that is not a number, accepts nothing.
+ *
+ *  @par Example
+ *  @include point.c
  */
 #ifndef ZU_POINT_H
 #define ZU_POINT_H

@@ -1,4 +1,5 @@
 /** @file zu_PointList.h
+ *  @ingroup geometry
  *  Lists of points. Every insertion copies the caller's point, every deletion frees the copy.
  *
  *      PointList* list = zu_PointList_create(&a, &b, (void*)NULL);
@@ -9,6 +10,9 @@
  *  A point list is a generic list (zu_LnkList.h): positions, cursor rules and results are those of the operations of
  *  the same name there. A null argument gives 0, null or what a comment says, and changes nothing. Nothing traces by
  *  itself.
+ *
+ *  @par Example
+ *  @include pointlist.c
  */
 #ifndef ZU_POINTLIST_H
 #define ZU_POINTLIST_H

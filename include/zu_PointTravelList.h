@@ -1,4 +1,5 @@
 /** @file zu_PointTravelList.h
+ *  @ingroup geometry
  *  Lists of labelled points, and a small registry that hands out numbers for them.
  *
  *      PointTravelList* path = zu_PointTravelList_create();
@@ -9,6 +10,9 @@
  *
  *  A point-travel list is a generic list (zu_LnkList.h): cursor rules and results are those of the operations of the
  *  same name there. Nothing traces by itself.
+ *
+ *  @par Example
+ *  @include pointtravellist.c
  */
 #ifndef ZU_POINTTRAVELLIST_H
 #define ZU_POINTTRAVELLIST_H

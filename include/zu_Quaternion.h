@@ -1,4 +1,5 @@
 /** @file zu_Quaternion.h
+ *  @ingroup geometry
  *  Quaternions as rotations: (x, y, z) = axis * sin(angle / 2), w = cos(angle / 2).
  *
  *      Quaternion turn;
@@ -10,6 +11,9 @@
  *
  *  Unless a comment says otherwise: outputs come first and may be one of the inputs; the result is 1 for success and 0
  *  for failure; a null argument gives 0; after a failure the outputs are as they were.
+ *
+ *  @par Example
+ *  @include quaternion.c
  */
 #ifndef ZU_QUATERNION_H
 #define ZU_QUATERNION_H

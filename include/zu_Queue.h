@@ -1,4 +1,5 @@
 /** @file zu_Queue.h
+ *  @ingroup containers
  *  A first-in first-out list of untyped pointers, which stay the caller's.
  *
  *      Queue* queue = zu_Queue_create(NULL);
@@ -8,6 +9,9 @@
  *      zu_Queue_destroy(queue, NULL);
  *
  *  A queue is a generic list (zu_LnkList.h), the next pointer to pop at its head.
+ *
+ *  @par Example
+ *  @include queue.c
  */
 #ifndef ZU_QUEUE_H
 #define ZU_QUEUE_H
@@ -16,6 +20,7 @@
 
 ZU_EXTERN_C_BEGIN
 
+/** A generic list, its head the next to pop. */
 typedef LnkList Queue;
 
 /** Makes an empty queue; the arguments are ignored.

@@ -1,5 +1,9 @@
 /** @file zu_RM.h
+ *  @ingroup hostservices
  *  One slot for a callback by which the host tracks calls: what one part of the host sets, all others can call.
+ *
+ *  @par Example
+ *  @include rm.c
  */
 #ifndef ZU_RM_H
 #define ZU_RM_H

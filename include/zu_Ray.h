@@ -1,4 +1,5 @@
 /** @file zu_Ray.h
+ *  @ingroup geometry
  *  Rays: a point and a direction. The same record serves as a plane (zu_Plane.h).
  *
  *      Ray* ray = zu_Ray_create(&eye, &direction);
@@ -6,6 +7,9 @@
  *
  *  The record holds copies. Unless a comment says otherwise: outputs come first; the result is 1, or 0 for a null
  *  argument, and nothing is written then. Nothing traces.
+ *
+ *  @par Example
+ *  @include plane.c
  */
 #ifndef ZU_RAY_H
 #define ZU_RAY_H

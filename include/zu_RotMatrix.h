@@ -1,4 +1,5 @@
 /** @file zu_RotMatrix.h
+ *  @ingroup geometry
  *  Rotation matrices: matrices (zu_Matrix.h) of 3 rows and 3 columns that turn points and vectors.
  *
  *      RotMatrix* turn = zu_RotMatrix_create();
@@ -7,12 +8,15 @@
  *      zu_RotMatrix_destroy(turn);
  *
  *  Vectors are columns: a point p turns into M p. The columns of a rotation that was built from a local system are the
- * X, Y and Z axes of that system in world coordinates. Axes are right-handed, angles in radians, the tolerance is 1e-5
+ *  X, Y and Z axes of that system in world coordinates. Axes are right-handed, angles in radians, the tolerance is 1e-5
  *  with strict less-than.
  *
  *  Unless a comment says otherwise: outputs come first and may be one of the inputs; the result is 1 for success or
  *  "true" and 0 for failure or "false"; a null argument, an index outside 0 to 2 and a matrix that is too small give 0;
  *  after a failure the outputs are as they were.
+ *
+ *  @par Example
+ *  @include rotmatrix.c
  */
 #ifndef ZU_ROTMATRIX_H
 #define ZU_ROTMATRIX_H

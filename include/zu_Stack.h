@@ -1,4 +1,5 @@
 /** @file zu_Stack.h
+ *  @ingroup containers
  *  A last-in first-out list of untyped pointers, which stay the caller's.
  *
  *      Stack* stack = zu_Stack_create(NULL);
@@ -7,6 +8,9 @@
  *      zu_Stack_destroy(stack, NULL);
  *
  *  A stack is a generic list (zu_LnkList.h), its top at the head.
+ *
+ *  @par Example
+ *  @include stack.c
  */
 #ifndef ZU_STACK_H
 #define ZU_STACK_H
@@ -15,6 +19,7 @@
 
 ZU_EXTERN_C_BEGIN
 
+/** A generic list, its head the top. */
 typedef LnkList Stack;
 
 /** Makes an empty stack; the arguments are ignored.

@@ -1,4 +1,5 @@
 /** @file zu_Str.h
+ *  @ingroup strings
  *  Operations on wide strings: editing in place, comparing and searching, words and tokens, keywords, line wrapping.
  *
  *      zu_wchar name[64] = ZU_W("  Elbow 90 ");
@@ -12,6 +13,9 @@
  *
  *  A space is the character 0x20 and nothing else; a blank is any white space (tabs, line ends, the spaces of Unicode).
  *  Case is that of the ASCII letters, whatever the locale.
+ *
+ *  @par Example
+ *  @include str.c
  */
 #ifndef ZU_STR_H
 #define ZU_STR_H
@@ -109,7 +113,7 @@ ZU_API zu_wchar* zu_Str_stripChars(zu_wchar* string, const zu_wchar* set, int32_
 ZU_API zu_wchar* zu_Str_replaceChar(const zu_wchar* string, const zu_wchar* find, const zu_wchar* replacement);
 
 /** The text between the first occurrence of a keyword and the second, which is looked for behind the first. Case
- * counts.
+ *  counts.
  *  @return a static buffer of 256 units; null when either is null, the keyword is empty, or occurs fewer than twice. */
 ZU_API zu_wchar* zu_Str_locateKeyword(const zu_wchar* text, const zu_wchar* keyword);
 

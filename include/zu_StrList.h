@@ -1,4 +1,5 @@
 /** @file zu_StrList.h
+ *  @ingroup containers
  *  A list of owned wide strings. Every insertion copies the caller's string, every deletion frees the copy, and reading
  *  an element gives a copy in a static buffer, valid until the next call of the same operation.
  *
@@ -10,6 +11,9 @@
  *  A string list is a generic list (zu_LnkList.h): cursor rules and results of the operations of the same name are the
  *  ones there. Reading an element through the static buffers cuts it at 512 units; all other operations see whole
  *  strings. Comparison for sorting is the ordinal one of the 16-bit units.
+ *
+ *  @par Example
+ *  @include strlist.c
  */
 #ifndef ZU_STRLIST_H
 #define ZU_STRLIST_H
@@ -18,6 +22,7 @@
 
 ZU_EXTERN_C_BEGIN
 
+/** A generic list whose data are strings of its own. */
 typedef LnkList StrList;
 
 /** Makes a list of copies of the strings given, which end with a null pointer.
@@ -113,11 +118,11 @@ ZU_API int32_t zu_StrList_concatenate(StrList* a, StrList* b);
 
 /** Keeps the first occurrence of each string.
  *  @return the list to use from now on, because the old one is gone: a new one without a current element. Null for
- * null. A list of one element or none, and any list without memory, is returned as it is. */
+ *  null. A list of one element or none, and any list without memory, is returned as it is. */
 ZU_API StrList* zu_StrList_removeDuplicates(StrList* list, uint8_t ignoreCase);
 
 /** Splits a text at any of the delimiter characters. Runs of delimiters count as one; leading and trailing white space
- * of each item is removed.
+ *  of each item is removed.
  *  @return a new list without a current element; null for a null text, a null set, a text without items, and
  *          without memory. */
 ZU_API StrList* zu_StrList_fromDelimitedString(const zu_wchar* string, const zu_wchar* delimiters);
@@ -130,7 +135,7 @@ ZU_API zu_wchar* zu_StrList_toDelimitedString(StrList* list, const zu_wchar* del
  *  @param groupSize  elements a group; 0 and below gives one group.
  *  @param quote      when not 0 each element is put between single quotes; quotes inside it are not escaped.
  *  @return a new list of joined strings without a current element; null for a null or empty list and without memory.
- * Current: none. */
+ *  Current: none. */
 ZU_API StrList* zu_StrList_toDelimitedStringList(StrList* list, const zu_wchar* delimiter, int32_t groupSize,
                                                  int32_t quote);
 

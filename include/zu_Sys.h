@@ -1,4 +1,5 @@
 /** @file zu_Sys.h
+ *  @ingroup hostservices
  *  Where things live: the directories of the installation, and file names inside them. Also which version the product
  *  and its modules have, and the start of other programs.
  *
@@ -8,7 +9,10 @@
  *  Directories come from session variables and from group "GENERAL" of "zu.ini" (zu_Env.h); two values come from the
  *  host. Every directory operation fills the caller's buffer, which must hold ZU_SYS_PATH_SIZE units and a terminator,
  *  ends what is not empty with a backslash, and converts it to lower case. A name operation appends the name to that
- * and converts it too. All of them return the buffer. A null buffer gives null; a null name counts as empty.
+ *  and converts it too. All of them return the buffer. A null buffer gives null; a null name counts as empty.
+ *
+ *  @par Example
+ *  @include sys.c
  */
 #ifndef ZU_SYS_H
 #define ZU_SYS_H
@@ -40,7 +44,7 @@ ZU_API zu_wchar* zu_Sys_getTempDir(zu_wchar* buffer, int32_t perSession);
 ZU_API zu_wchar* zu_Sys_getTempName(zu_wchar* buffer, const zu_wchar* name, int32_t perSession);
 
 /** The directory of specifications, or a sub-directory of it: KVSPECS, or "specs" in the network directory. The value
- * is remembered as session variable.
+ *  is remembered as session variable.
  *  @param subDirectory  may be null or empty. */
 ZU_API zu_wchar* zu_Sys_getSpecDir(zu_wchar* buffer, const zu_wchar* subDirectory);
 /** A name in zu_Sys_getSpecDir. */
@@ -54,7 +58,7 @@ ZU_API zu_wchar* zu_Sys_getBinName(zu_wchar* buffer, const zu_wchar* name);
 /** A name in the binary directory or in its sub-directory for the version, which the session variable ACADVER names.
  *
  *  @param preferVersion  when not 0 and the name is not empty: the name in the version's directory if it exists there,
- * else in the binary directory. When 0: the name in the version's directory, which is created when it does not exist.
+ *  else in the binary directory. When 0: the name in the version's directory, which is created when it does not exist.
  */
 ZU_API zu_wchar* zu_Sys_getVersionBinName(zu_wchar* buffer, const zu_wchar* name, int32_t preferVersion);
 

@@ -1,4 +1,5 @@
 /** @file zu_TMatrix.h
+ *  @ingroup geometry
  *  Transformation matrices: matrices (zu_Matrix.h) of 4 rows and 4 columns that turn and move points. The upper left
  *  block of 3 x 3 is the rotation, column 3 the origin, row 3 is (0, 0, 0, 1).
  *
@@ -13,6 +14,9 @@
  *
  *  Unless a comment says otherwise: outputs come first and may be one of the inputs; the result is 1 for success and 0
  *  for failure; a null argument and a matrix that is too small give 0; after a failure the outputs are as they were.
+ *
+ *  @par Example
+ *  @include tmatrix.c
  */
 #ifndef ZU_TMATRIX_H
 #define ZU_TMATRIX_H

@@ -1,4 +1,5 @@
 /** @file zu_Timer.h
+ *  @ingroup containers
  *  Stopwatches known by name.
  *
  *      zu_Timer_create(ZU_W("import"));
@@ -8,6 +9,9 @@
  *  They measure elapsed time in milliseconds and report it in seconds; an interval of more than 49 days starts again
  *  from 0. Names are case-sensitive and count up to 51 units. All timers are process-wide. Where two have the same
  *  name, the one that was created first is meant.
+ *
+ *  @par Example
+ *  @include timer.c
  */
 #ifndef ZU_TIMER_H
 #define ZU_TIMER_H
@@ -22,8 +26,8 @@ ZU_EXTERN_C_BEGIN
 /** A timer. */
 typedef struct TimerNode
 {
-    zu_wchar name[ZU_TIMER_NAME_SIZE + 1];
-    int32_t startTicks; /**< milliseconds of the running clock when it was started, which wraps */
+    zu_wchar name[ZU_TIMER_NAME_SIZE + 1]; /**< terminated */
+    int32_t startTicks;                    /**< milliseconds of the running clock when it was started, which wraps */
 } TimerNode;
 
 /** Starts a new timer, also when there is one of that name.

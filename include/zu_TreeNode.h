@@ -1,4 +1,5 @@
 /** @file zu_TreeNode.h
+ *  @ingroup containers
  *  A tree of named nodes, each with one untyped data pointer. A tree is known by its root node; children keep the order
  *  in which they were inserted.
  *
@@ -11,6 +12,9 @@
  *
  *  Names are compared ignoring case, by zu_Str_cmpi, for which a node without a name has the empty name. The tree never
  *  owns the data: operations that drop nodes take an optional callback that frees them. Trees may be of any depth.
+ *
+ *  @par Example
+ *  @include treenode.c
  */
 #ifndef ZU_TREENODE_H
 #define ZU_TREENODE_H

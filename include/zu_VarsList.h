@@ -1,5 +1,9 @@
 /** @file zu_VarsList.h
+ *  @ingroup hostservices
  *  Filling and emptying a host's list of variables (zu_HostObjects.h).
+ *
+ *  @par Example
+ *  @include varslist.cpp
  */
 #ifndef ZU_VARSLIST_H
 #define ZU_VARSLIST_H
@@ -13,7 +17,7 @@ ZU_EXTERN_C_BEGIN
 ZU_API int32_t zu_VarsList_InsertAtEnd(HostVariableList* variables, const zu_wchar* name, const zu_wchar* value);
 
 /** Removes the variables with the keys "1" to their count, which are those that zu_VarsList_InsertAtEnd hands out. A
- * list with other keys is not emptied.
+ *  list with other keys is not emptied.
  *  @return 1 always. A count that cannot be read is raised as a COM error. */
 ZU_API int32_t zu_VarsList_Reset(HostVariableList* variables);
 

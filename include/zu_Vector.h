@@ -1,4 +1,5 @@
 /** @file zu_Vector.h
+ *  @ingroup geometry
  *  Vectors in space: directions with a length.
  *
  *      Vector along, across;
@@ -14,6 +15,9 @@
  *  The tolerance is 1e-5, applied with strict less-than to the plain quantities: a component, a dot product, the length
  *  of a cross product. For unit vectors the latter two are the cosine and the sine of the angle, for longer ones they
  *  grow with the lengths; that is meant.
+ *
+ *  @par Example
+ *  @include vector.c
  */
 #ifndef ZU_VECTOR_H
 #define ZU_VECTOR_H

@@ -1,4 +1,5 @@
 /** @file zu_VectorList.h
+ *  @ingroup geometry
  *  Lists of vectors. Every insertion copies the caller's vector, every deletion frees the copy.
  *
  *      VectorList* list = zu_VectorList_create(&a, &b, (void*)NULL);
@@ -9,6 +10,9 @@
  *  A vector list is a generic list (zu_LnkList.h): positions, cursor rules and results are those of the operations of
  *  the same name there. A null argument gives 0, null or what a comment says, and changes nothing. Nothing traces by
  *  itself.
+ *
+ *  @par Example
+ *  @include vectorlist.c
  */
 #ifndef ZU_VECTORLIST_H
 #define ZU_VECTORLIST_H
