@@ -6,7 +6,8 @@
  *          report();
  *
  *  Paths are written with drive letters and backslashes on every system. A null or empty path, and one of more than 512
- *  units, gives the failure value and touches nothing.
+ *  units, gives the failure value and touches nothing, save that the empty path is the current directory for
+ *  zu_Dir_getParent.
  *
  *  Names are lower-cased on purpose: directories that are made get lower-case names, and listed names come back in
  *  lower case. Where the file system tells case apart, an entry is found by its name as given, and otherwise ignoring

@@ -25,7 +25,8 @@ ZU_API void zu_Global_destroyData(void);
  *
  *  Of the languages that the resource has, the user's is taken; else one of the same primary language, a neutral one,
  *  an English one, or the first.
- *  @param module  a module that is loaded, by its file name with or without directory and extension. Nothing is loaded.
+ *  @param module  a module that is loaded, by its file name with or without directory and extension. Nothing is
+ *                 loaded. On Windows a name without extension is that of a ".dll".
  *  @return a static buffer; empty when no such module is loaded, when it has no such text, and for null. */
 ZU_API zu_wchar* zu_Global_getModuleFileVersion(const zu_wchar* module);
 

@@ -88,7 +88,8 @@ ZU_API int32_t zu_Sys_is64bitSystem(void);
 /** The product version of a module that is loaded, from the fixed information of its version resource: "08.11.09.245".
  *  Where modules have no resources, a note of the module with the same content stands for it.
  *
- *  @param module  its file name, with or without directory and extension. Nothing is loaded.
+ *  @param module  its file name, with or without directory and extension. Nothing is
+ *                 loaded. On Windows a name without extension is that of a ".dll".
  *  @return a static buffer; null for null, when no such module is loaded, and when it has no version resource. */
 ZU_API zu_wchar* zu_Sys_getVersionNumber(const zu_wchar* module);
 

@@ -168,36 +168,36 @@ int32_t zu_Env_displayIniError(const zu_wchar* group, const zu_wchar* key)
 
 zu_wchar* zu_Env_getWin(const zu_wchar* file, const zu_wchar* section, const zu_wchar* key)
 {
+    // Cleared when there is nothing to put in only: an argument may be the value of the call before.
     static text::Buffer<255> value;
-    value.clear();
-    if (file == nullptr || section == nullptr || key == nullptr)
-        return nullptr;
-    return guarded<zu_wchar*>(nullptr, [&]() -> zu_wchar* {
+    const bool found = file != nullptr && section != nullptr && key != nullptr && guarded(false, [&] {
         auto read = platform::profileString(file, section, key, value.capacity);
         value.set(read ? *read : readProfile(file, section, key));
-        return value.view().empty() ? nullptr : value.units;
+        return !value.view().empty();
     });
+    if (!found)
+        value.clear();
+    return found ? value.units : nullptr;
 }
 
 zu_wchar* zu_Env_expandVar(const zu_wchar* text, int32_t* position)
 {
     static text::Buffer<512> value;
-    value.clear();
-    if (text == nullptr || position == nullptr || *position < 0)
-        return value.units;
-    guarded([&] {
+    const bool expanded = text != nullptr && position != nullptr && *position >= 0 && guarded(false, [&] {
         auto index = static_cast<std::size_t>(*position);
         value.set(expandReference(text, index));
         *position = static_cast<int32_t>(index);
+        return true;
     });
+    if (!expanded)
+        value.clear();
     return value.units;
 }
 
 zu_wchar* zu_Env_expandStr(const zu_wchar* text)
 {
     static text::Buffer<512> expanded;
-    expanded.clear();
-    guarded([&] {
+    const bool complete = guarded(false, [&] {
         const WideView from = text::view(text);
         WideString out;
         for (std::size_t index = 0; index < from.size();) {
@@ -211,7 +211,10 @@ zu_wchar* zu_Env_expandStr(const zu_wchar* text)
             }
         }
         expanded.set(out);
+        return true;
     });
+    if (!complete)
+        expanded.clear();
     return expanded.units;
 }
 

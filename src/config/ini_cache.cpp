@@ -175,7 +175,8 @@ zu_wchar* zu_Ini_getValue(const zu_wchar* file, const zu_wchar* group, const zu_
         WideString value(read.view().substr(0, valueSize));
         if (expand != 0)
             value = expandAliases(value);
-        WideView kept = WideView(value).substr(0, static_cast<std::size_t>(std::max(maxLength, 0)));
+        // Up to the terminator that a file's NUL byte is.
+        WideView kept = WideView(value.c_str()).substr(0, static_cast<std::size_t>(std::max(maxLength, 0)));
         while (!kept.empty() && text::isSpace(kept.front()))
             kept.remove_prefix(1);
         return kept.empty() ? nullptr : result.set(kept);
@@ -195,11 +196,15 @@ int32_t zu_Ini_set(const zu_wchar* file, const zu_wchar* group, const zu_wchar* 
 int32_t zu_Ini_setAndVerify(const zu_wchar* file, const zu_wchar* group, const zu_wchar* key, const zu_wchar* value,
                             int32_t* status)
 {
+    // The value may be the result of an earlier reading, which the one below replaces.
+    text::Buffer<valueSize> wanted;
+    const bool isComparable = text::view(value, valueSize + 1).size() <= valueSize;
+    wanted.set(text::view(value, valueSize));
     const int32_t written = zu_Ini_set(file, group, key, value);
     if (status != nullptr)
         *status = written;
     const zu_wchar* const reread = zu_Ini_getValue(file, group, key, 0, valueSize);
-    return reread != nullptr && text::equalIgnoringCase(reread, text::view(value));
+    return isComparable && reread != nullptr && text::equalIgnoringCase(reread, wanted.view());
 }
 
 FldList* zu_Ini_getGroup(const zu_wchar* file, const zu_wchar* group)

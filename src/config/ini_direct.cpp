@@ -60,10 +60,11 @@ HookVector<WideString> memberLines(FldList* list)
 // Writes the new content beside the file and moves it over the file.
 bool replaceThrough(const WideString& temporary, const zu_wchar* file, std::string_view content)
 {
-    if (!platform::replaceContent(temporary, content))
+    // What only some may read must not stand in the file beside it for others, not even for a moment.
+    if (!platform::replaceContent(temporary, {}))
         return false;
     platform::copyPermissions(file, temporary);
-    if (zu_File_move(temporary.c_str(), file) == 0)
+    if (platform::replaceContent(temporary, content) && platform::replaceFile(temporary, file))
         return true;
     platform::removeFile(temporary);
     return false;
@@ -109,8 +110,9 @@ int32_t zu_Ini_setGroupItems(const zu_wchar* file, const zu_wchar* group, FldLis
 {
     if (file == nullptr || group == nullptr || list == nullptr)
         return 0;
-    return guarded(0, [&] {
-        WideString temporary(file);
+    WideString temporary;
+    const int32_t written = guarded(0, [&] {
+        temporary = file;
         temporary.resize(static_cast<std::size_t>(zu_Fname_extractPath(file, temporary.data())));
         temporary += temporaryName;
         // Among the processes that rewrite files of this directory, which share the temporary name.
@@ -123,6 +125,10 @@ int32_t zu_Ini_setGroupItems(const zu_wchar* file, const zu_wchar* group, FldLis
         const std::optional<ByteString> changed = document.withGroupLines(group, memberLines(list));
         return changed && replaceThrough(temporary, file, *changed) ? 1 : 0;
     });
+    // The host is told as zu_File_move tells it, but without the lock: it may write files of this directory itself.
+    zu_File_revalidate(temporary.c_str());
+    zu_File_revalidate(file);
+    return written;
 }
 
 int32_t zu_Ini_findGroup(FILE* stream, const zu_wchar* group)

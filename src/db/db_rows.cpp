@@ -151,7 +151,8 @@ DbFldList* zu_Db_readRec(int32_t handle, int32_t ignored)
 
 DbFldList* zu_Db_readCurrRec(DbRefNode* record, int32_t)
 {
-    if (record == nullptr)
+    // A copy of a record is none: what belongs to the rows goes with the original.
+    if (record == nullptr || zu_DbRef_sel(record->number) != record)
         return nullptr;
     if (record->mode == ZU_DB_APPEND)
         return openUnfetched(*record) == nullptr ? nullptr : zu_DbFldList_copy(record->fields);

@@ -17,7 +17,8 @@ constexpr std::size_t behindRoot = 3;
 
 using RelativeName = text::Buffer<longest>;
 
-// The way from a base directory up to what both share, and down again; null when it is too long.
+// The way from a base directory up to what both share, and down again; null when it is too long. Either path may be the
+// result of the call before.
 zu_wchar* upAndDown(RelativeName& result, WideView base, WideView target, std::size_t difference)
 {
     std::size_t ups = 1;
@@ -29,11 +30,12 @@ zu_wchar* upAndDown(RelativeName& result, WideView base, WideView target, std::s
     const WideView down = target.substr(shared);
     if (3 * ups + down.size() > longest)
         return nullptr;
-    zu_wchar* out = result.units;
+    RelativeName way;
+    zu_wchar* out = way.units;
     for (; ups > 0; --ups)
         out = std::copy_n(ZU_W("..\\"), 3, out);
     text::copyCut(out, longest, down);
-    return result.units;
+    return result.set(way.view());
 }
 
 } // namespace

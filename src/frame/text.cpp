@@ -62,6 +62,22 @@ double outOfRange(std::string_view number)
     return place > 0 ? std::numeric_limits<double>::infinity() : 0.0;
 }
 
+// "0x" and a digit; without one the number is the 0 in front.
+bool isHexadecimal(std::string_view number)
+{
+    constexpr std::string_view digits = "0123456789abcdefABCDEF";
+    if (!number.starts_with("0x") && !number.starts_with("0X"))
+        return false;
+    const std::size_t digit = number.substr(2).starts_with('.') ? 3 : 2;
+    return digit < number.size() && digits.find(number[digit]) != std::string_view::npos;
+}
+
+// Only its exponent takes a hexadecimal number so far.
+double hexOutOfRange(std::string_view number)
+{
+    return number.find('-') == std::string_view::npos ? std::numeric_limits<double>::infinity() : 0.0;
+}
+
 } // namespace
 
 WideView trimmed(WideView text)
@@ -156,10 +172,15 @@ double toDouble(WideView text)
     std::size_t length = 0;
     for (; length < text.size() && length < sizeof number && text[length] < 0x7F; ++length)
         number[length] = static_cast<char>(text[length]);
+    const std::string_view all(number, length);
+    const bool isHex = isHexadecimal(all);
+    const char* const first = isHex ? number + 2 : number;
     double value = 0.0;
-    const auto result = std::from_chars(number, number + length, value);
+    const auto result = std::from_chars(first, number + length, value,
+                                        isHex ? std::chars_format::hex : std::chars_format::general);
+    const std::string_view read(first, static_cast<std::size_t>(result.ptr - first));
     if (result.ec == std::errc::result_out_of_range)
-        value = outOfRange(std::string_view(number, static_cast<std::size_t>(result.ptr - number)));
+        value = isHex ? hexOutOfRange(read) : outOfRange(read);
     else if (result.ec != std::errc())
         value = 0.0;
     return negative ? -value : value;

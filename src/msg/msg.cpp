@@ -10,6 +10,7 @@
 #include "zu_Str.h"
 
 #include <algorithm>
+#include <limits>
 #include <stdexcept>
 #include <utility>
 
@@ -49,6 +50,12 @@ void decide()
     }
 }
 
+// A number is the entry plus one; 0 is no entry.
+std::int32_t entryOf(std::int32_t n)
+{
+    return n == 0 || n == std::numeric_limits<std::int32_t>::min() ? n : n - 1;
+}
+
 // The translator's answer; empty when it has none or is not to be asked.
 WideString answerOf(WideView text, WideView section, std::int32_t n)
 {
@@ -60,7 +67,7 @@ WideString answerOf(WideView text, WideView section, std::int32_t n)
     if (!translator)
         return WideString();
     Bstr answer;
-    checkComCall(translator->Translate(Bstr(text).get(), Bstr(section).get(), n == 0 ? 0 : n - 1, answer.out()),
+    checkComCall(translator->Translate(Bstr(text).get(), Bstr(section).get(), entryOf(n), answer.out()),
                  translator.get());
     return WideString(answer.view());
 }

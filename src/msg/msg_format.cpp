@@ -1,6 +1,7 @@
 #include "frame/format.h"
 #include "frame/text.h"
 #include "zu_Msg.h"
+#include "zu_Str.h"
 
 #include <algorithm>
 #include <bit>
@@ -88,7 +89,6 @@ int32_t zu_Msg_breakStr(const zu_wchar* text, zu_wchar* first, zu_wchar* second)
 {
     const WideView whole = text::view(text).substr(0, textSize);
     const WideView separators = ZU_W(" _");
-    // Blanks separate words, so a word holds none to delete.
     const auto wordFrom = [&](std::size_t from) {
         const std::size_t start = std::min(whole.find_first_not_of(separators, from), whole.size());
         return whole.substr(start, whole.find_first_of(separators, start) - start);
@@ -98,13 +98,16 @@ int32_t zu_Msg_breakStr(const zu_wchar* text, zu_wchar* first, zu_wchar* second)
         return 0;
     const WideView two = wordFrom(static_cast<std::size_t>(one.data() - whole.data()) + one.size());
     // Both are found before either is written: a buffer may be the text itself.
-    text::Buffer<textSize> other;
-    other.set(two);
+    text::Buffer<textSize> words[2];
+    words[0].set(one);
+    words[1].set(two);
+    for (text::Buffer<textSize>& word : words)
+        zu_Str_delBlks(word.units);
     if (first != nullptr)
-        text::copyCut(first, one.size(), one);
-    if (two.empty())
+        text::copyCut(first, textSize, words[0].view());
+    if (words[0].view().empty() || words[1].view().empty())
         return 0;
     if (second != nullptr)
-        text::copyCut(second, two.size(), other.view());
+        text::copyCut(second, textSize, words[1].view());
     return 1;
 }

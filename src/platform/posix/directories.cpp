@@ -1,5 +1,6 @@
 #include "platform/directories.h"
 
+#include "platform/files.h"
 #include "platform/posix/directory_stream.h"
 #include "platform/posix/path.h"
 #include "platform/posix/wildcard.h"
@@ -98,6 +99,21 @@ bool covers(std::string_view directory, std::string_view path)
            (directory.ends_with('/') || path.size() == directory.size() || path[directory.size()] == '/');
 }
 
+// The entry itself: with a separator behind it a link would be followed.
+std::optional<ByteString> nativeEntry(WideView path)
+{
+    auto native = posix::nativePath(path);
+    while (native && native->size() > 1 && native->back() == '/')
+        native->pop_back();
+    return native;
+}
+
+bool isNativeLink(const ByteString& path)
+{
+    struct stat status;
+    return ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
 } // namespace
 
 Matches matchingEntries(WideView pattern)
@@ -120,15 +136,19 @@ Matches matchingEntries(WideView pattern)
 
 bool isLink(WideView path)
 {
-    struct stat status;
-    const auto native = posix::nativePath(path);
-    return native && ::lstat(native->c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+    const auto native = nativeEntry(path);
+    return native && isNativeLink(*native);
 }
 
 bool removeDirectory(WideView path)
 {
-    const auto native = posix::nativePath(path);
-    return native && ::rmdir(native->c_str()) == 0;
+    const auto native = nativeEntry(path);
+    if (!native)
+        return false;
+    // A link to a directory is removed in its place.
+    if (isNativeLink(*native))
+        return isDirectory(path) && ::unlink(native->c_str()) == 0;
+    return ::rmdir(native->c_str()) == 0;
 }
 
 bool changeDirectory(WideView path)

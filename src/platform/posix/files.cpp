@@ -74,8 +74,8 @@ std::FILE* openFile(WideView path, const char* mode)
     struct stat status;
     if (::stat(native->c_str(), &status) == 0) {
         int refusal = S_ISDIR(status.st_mode) ? EISDIR : writes && !hasWriteBit(status) ? EACCES : 0;
-        // Reading a pipe would wait for somebody who writes into it.
-        if (S_ISFIFO(status.st_mode) && !writes)
+        // Opening a pipe would wait for somebody at its other end.
+        if (S_ISFIFO(status.st_mode))
             refusal = ENXIO;
         if (refusal != 0) {
             errno = refusal;

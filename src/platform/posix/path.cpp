@@ -3,9 +3,9 @@
 #include "platform/posix/directory_stream.h"
 #include "platform/utf8.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <limits.h>
-#include <strings.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -46,15 +46,34 @@ bool exists(const ByteString& path)
     return ::lstat(path.c_str(), &status) == 0;
 }
 
-// The entry of a directory that equals name ignoring case: the first in order when there are several.
+bool isLetter(char unit)
+{
+    return (unit >= 'a' && unit <= 'z') || (unit >= 'A' && unit <= 'Z');
+}
+
+// Ignores the case of ASCII letters, whatever the locale.
+bool equalsIgnoringCase(const char* entry, const ByteString& name)
+{
+    for (const char unit : name) {
+        const char other = *entry++;
+        if (unit != other && (!isLetter(unit) || (unit ^ 0x20) != other))
+            return false;
+    }
+    return *entry == '\0';
+}
+
+// The entry of a directory that equals name ignoring case: the first in order when there are several. For a name that is
+// not there the whole directory is read, so a name without letters is not looked for.
 ByteString findEntry(const ByteString& directory, const ByteString& name)
 {
     ByteString found;
+    if (std::none_of(name.begin(), name.end(), isLetter))
+        return found;
     const DirectoryStream stream(::opendir(directory.empty() ? "." : directory.c_str()));
     if (stream == nullptr)
         return found;
     while (const dirent* const entry = ::readdir(stream.get())) {
-        if (::strcasecmp(entry->d_name, name.c_str()) == 0 && (found.empty() || found > entry->d_name))
+        if (equalsIgnoringCase(entry->d_name, name) && (found.empty() || found > entry->d_name))
             found = entry->d_name;
     }
     return found;

@@ -4,12 +4,14 @@
 #include "platform/posix/path.h"
 #include "platform/utf8.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace zu::platform {
 namespace {
@@ -24,11 +26,16 @@ ByteString directoryOf(const ByteString& path)
     return separator == 0 ? ByteString("/") : path.substr(0, separator);
 }
 
-// The file that a link leads to; the path itself when there is none.
-ByteString behindLinks(const ByteString& path)
+// The file that a link leads to; the path itself when there is none. None for a link that leads nowhere.
+std::optional<ByteString> behindLinks(const ByteString& path)
 {
     char resolved[PATH_MAX];
-    return ::realpath(path.c_str(), resolved) == nullptr ? path : ByteString(resolved);
+    if (::realpath(path.c_str(), resolved) != nullptr)
+        return ByteString(resolved);
+    struct stat status;
+    if (::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode))
+        return std::nullopt;
+    return path;
 }
 
 void syncDirectory(const ByteString& directory)
@@ -42,7 +49,7 @@ void syncDirectory(const ByteString& directory)
 class TemporaryFile
 {
 public:
-    explicit TemporaryFile(const ByteString& target) : name(target + ".zu-XXXXXX")
+    explicit TemporaryFile(const ByteString& target) : name(besides(target))
     {
         file = Descriptor(::mkostemp(name.data(), O_CLOEXEC));
         if (!file)
@@ -69,6 +76,14 @@ public:
 
     explicit operator bool() const { return static_cast<bool>(file); }
     int get() const { return file.get(); }
+
+    // A name for mkostemp, not longer than names may be.
+    static ByteString besides(const ByteString& target)
+    {
+        constexpr std::string_view tail = ".zu-XXXXXX";
+        const std::size_t start = target.rfind('/') + 1; // none gives 0
+        return target.substr(0, std::min(target.size(), start + NAME_MAX - tail.size())).append(tail);
+    }
 
     // Puts the file in the place of target once it is safely on disk.
     bool moveTo(const ByteString& target)
@@ -104,9 +119,13 @@ bool copyContent(int to, int from)
 
 bool copyAcrossVolumes(const ByteString& from, const ByteString& to)
 {
-    const Descriptor source(::open(from.c_str(), O_RDONLY | O_CLOEXEC));
+    // A pipe must not be waited for.
+    const Descriptor source(::open(from.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat status;
     if (!source || ::fstat(source.get(), &status) != 0 || !S_ISREG(status.st_mode))
+        return false;
+    // What cannot be removed afterwards is not moved.
+    if (::access(directoryOf(from).c_str(), W_OK | X_OK) != 0)
         return false;
     TemporaryFile copy(to);
     if (!copy || !copyContent(copy.get(), source.get()))
@@ -114,7 +133,11 @@ bool copyAcrossVolumes(const ByteString& from, const ByteString& to)
     ::fchmod(copy.get(), status.st_mode & 07777);
     const timespec times[] = {status.st_atim, status.st_mtim};
     ::futimens(copy.get(), times);
-    return copy.moveTo(to) && ::unlink(from.c_str()) == 0;
+    if (!copy.moveTo(to))
+        return false;
+    // The file has arrived: a source that stays behind all the same is no failure, as on other systems.
+    ::unlink(from.c_str());
+    return true;
 }
 
 // The path with the last component as the caller wrote it.
@@ -186,9 +209,11 @@ bool replaceContent(WideView path, std::string_view content)
     const auto native = posix::nativePath(path);
     if (!native || isDirectory(path) || (hasAccess(path, Access::exists) && !hasAccess(path, Access::write)))
         return false;
-    const ByteString target = behindLinks(*native);
-    TemporaryFile file(target);
-    return file && posix::writeAll(file.get(), content) && file.moveTo(target);
+    const std::optional<ByteString> target = behindLinks(*native);
+    if (!target)
+        return false;
+    TemporaryFile file(*target);
+    return file && posix::writeAll(file.get(), content) && file.moveTo(*target);
 }
 
 bool replaceFile(WideView from, WideView to)
@@ -225,7 +250,7 @@ void copyPermissions(WideView from, WideView to)
 DirectoryLock::DirectoryLock(WideView pathOfFile)
     : handle([&] {
           const auto native = posix::nativePath(pathOfFile);
-          return native ? lockDirectory(directoryOf(behindLinks(*native))) : -1;
+          return native ? lockDirectory(directoryOf(behindLinks(*native).value_or(*native))) : -1;
       }())
 {
 }

@@ -48,7 +48,11 @@ bool isLink(WideView path)
     WIN32_FIND_DATAW entry;
     if (!isUsable(path) || path.find_first_of(L"*?") != WideView::npos)
         return false;
-    const HANDLE search = ::FindFirstFileW(WideString(path).c_str(), &entry);
+    // With a separator at its end the path would not be found.
+    WideString name(path);
+    while (name.size() > 1 && (name.back() == L'\\' || name.back() == L'/'))
+        name.pop_back();
+    const HANDLE search = ::FindFirstFileW(name.c_str(), &entry);
     if (search == INVALID_HANDLE_VALUE)
         return false;
     ::FindClose(search);

@@ -86,15 +86,29 @@ WideString temporaryName(const WideString& target)
     return name;
 }
 
-// The name of the lock of a directory: the same for every way of writing its path.
+// The name of the lock of a directory: the same for every way of writing its path, through links and drives as well, as
+// far as the file system numbers its directories.
 WideString lockName(WideView pathOfFile)
 {
     WideString full = fullPath(pathOfFile).value_or(WideString(pathOfFile));
     full.resize(std::min(full.find_last_of(L"\\/"), full.size()));
-    ::CharLowerBuffW(full.data(), static_cast<DWORD>(full.size()));
+    const Handle directory(::CreateFileW((full + L'\\').c_str(), 0,
+                                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                                         FILE_FLAG_BACKUP_SEMANTICS, nullptr));
+    BY_HANDLE_FILE_INFORMATION identity;
     std::uint64_t hash = 14695981039346656037u;
-    for (wchar_t unit : full)
-        hash = (hash ^ unit) * 1099511628211u;
+    const auto add = [&hash](std::uint64_t part) {
+        hash = (hash ^ part) * 1099511628211u;
+    };
+    if (directory && ::GetFileInformationByHandle(directory.get(), &identity)) {
+        add(identity.dwVolumeSerialNumber);
+        add(identity.nFileIndexHigh);
+        add(identity.nFileIndexLow);
+    } else {
+        ::CharLowerBuffW(full.data(), static_cast<DWORD>(full.size()));
+        for (wchar_t unit : full)
+            add(unit);
+    }
     WideString name = L"Local\\zu-directory-";
     for (int digit = 0; digit < 16; ++digit, hash >>= 4)
         name += L"0123456789abcdef"[hash & 15];
