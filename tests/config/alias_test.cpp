@@ -13,6 +13,8 @@ TEST(Alias, putGetAndDelete)
     EXPECT_EQ(zu_Alias_get(value, W("ROOT"), 7), 1);
     EXPECT_EQ(value.str(), W("C:\\plan")) << "cut to the capacity";
     EXPECT_EQ(zu_Alias_get(nullptr, W("ROOT"), 7), 0);
+    EXPECT_EQ(zu_Alias_get(value, nullptr, 7), 0);
+    EXPECT_EQ(value.str(), W(""));
     EXPECT_EQ(zu_Alias_put(W("unknown alias"), nullptr), 0);
     EXPECT_EQ(zu_Alias_del(W("root")), 1);
     EXPECT_EQ(zu_Alias_get(value, W("ROOT"), 7), -2);

@@ -100,6 +100,8 @@ TEST(Env, splitting)
 {
     EXPECT_EQ(takeStrings(zu_Env_split(W(";a ;; b c; ;"))), (Strings{W("a"), W("b c")}));
     EXPECT_EQ(zu_Env_split(W(";; ;")), nullptr);
+    EXPECT_TRUE(allNull({zu_Env_split(nullptr), zu_Env_getSes(nullptr), zu_Env_getWin(nullptr, W("S"), W("K"))}));
+    EXPECT_EQ(zu_Env_setSes(nullptr, W("x")), 1);
     sweepAllocations([] { zu_StrList_destroy(zu_Env_split(W("a;b"))); }, [] {});
 }
 

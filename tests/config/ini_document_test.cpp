@@ -99,6 +99,9 @@ TEST(IniDocument, setsValues)
         {"value with a line feed", "[a]\n", W("a"), W("k"), W("1\n[b]"), "<refused>"},
         {"key like a header", "[a]\n", W("a"), W("[k"), W("1"), "<refused>"},
         {"empty group", "", W(""), W("k"), W("1"), "<refused>"},
+        {"group with ]", "", W("a]"), W("k"), W("1"), "<refused>"},
+        {"empty key", "[a]\n", W("a"), W(""), W("1"), "<refused>"},
+        {"key with =", "[a]\n", W("a"), W("k=k"), W("1"), "<refused>"},
         {"a file in 16-bit units", "\xFF\xFE[\0a\0]\0"s, W("a"), W("k"), W("1"), "<refused>"},
     };
     for (const auto& row : rows) {
@@ -118,6 +121,8 @@ TEST(IniDocument, addsRemovesAndEmptiesGroups)
 {
     const std::string_view before = "top\r\n[a]\r\nk=1\r\n;c\r\n\r\nK=2\r\nm=3\r\n[b]\r\nk=4";
     EXPECT_EQ(shown(parsed(before).withoutValue(W("A"), W("k"))), "top\r\n[a]\r\n;c\r\n\r\nm=3\r\n[b]\r\nk=4");
+    EXPECT_EQ(shown(parsed(before).withoutValue(W("b"), W("m"))), before);
+    EXPECT_EQ(shown(parsed(before).withoutEntries(W("n"))), before);
     EXPECT_EQ(shown(parsed(before).withoutEntries(W("A"))), "top\r\n[a]\r\n;c\r\n\r\n[b]\r\nk=4");
     EXPECT_EQ(shown(parsed(before).withoutGroup(W("A"))), "top\r\n[b]\r\nk=4");
     EXPECT_EQ(shown(parsed(before).withGroup(W("B"))), before);

@@ -78,6 +78,7 @@ TEST(Ini, groupsAsFieldLists)
               (Pairs{{W("B"), W("1")}, {W("A"), W("al")}, {W("EMPTY"), W("")}}));
     EXPECT_EQ(takePairs(zu_Ini_getGroupAbsolute(file.c_str(), W("full"))),
               (Pairs{{W("B"), W("1")}, {W("A"), W("%ZU_I3%")}}));
+    EXPECT_EQ(takePairs(zu_Ini_getGroupValues(file.c_str(), W("full"), 1)).size(), 2u);
     EXPECT_EQ(takePairs(zu_Ini_getGroup(file.c_str(), W("hollow"))), Pairs{}) << "an empty list";
     EXPECT_EQ(zu_Ini_getGroup(file.c_str(), W("none")), nullptr);
 }
@@ -172,6 +173,9 @@ TEST(Ini, rewritingAGroupInTheFile)
     EXPECT_FALSE(world.exists(W("zu_tmp.ini")));
 
     EXPECT_EQ(zu_Ini_setGroupItems(world.path(W("no\\such\\f.ini")).c_str(), W("G"), list.get()), 0);
+    EXPECT_TRUE(allAre(0, {zu_Ini_setGroupItems(nullptr, W("G"), list.get()), zu_Ini_findGroup(nullptr, W("b")),
+                           zu_Ini_setGroupItems(world.path(W("f.ini")).c_str(), W("G"), nullptr)}));
+    EXPECT_TRUE(allNull({zu_Ini_get(nullptr, W("One"), W("Key")), zu_Ini_getGroupNameSuffix(nullptr)}));
     std::filesystem::create_directory(world.native(W("zu_tmp.ini")));
     const std::string before = world.read(W("f.ini"));
     EXPECT_EQ(zu_Ini_setGroupItems(world.path(W("f.ini")).c_str(), W("H"), list.get()), 0) << "no temporary file";
@@ -215,6 +219,9 @@ TEST(Ini, theLineParsers)
     WideBuffer<64> both(W(" key = value "));
     zu_Ini_parse(both, both, nullptr);
     EXPECT_EQ(both.str(), W("key"));
+    both = W(" key = value ");
+    zu_Ini_parse(both, nullptr, both);
+    EXPECT_EQ(both.str(), W("value"));
 
     const std::tuple<WideLiteral, int32_t, WideLiteral> headers[] = {
         {W("  [ A B ] c"), 1, W("A B")}, {W("[open "), 1, W("open")}, {W("[]"), 1, W("")},

@@ -261,6 +261,7 @@ TEST(LnkList, join)
     }
     LnkList* const list = listOf({&pool[0], &pool[1]});
     EXPECT_EQ(zu_LnkList_join(nullptr, list), 0);
+    EXPECT_EQ(zu_LnkList_join(list, nullptr), 0);
     EXPECT_EQ(zu_LnkList_join(list, list), 0);
     EXPECT_EQ(contentOf(list), (std::vector<void*>{&pool[0], &pool[1]}));
     zu_LnkList_destroy(list, nullptr);

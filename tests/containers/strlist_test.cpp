@@ -245,6 +245,11 @@ TEST(StrList, noList)
     Strings list{W("a")};
     EXPECT_EQ(zu_StrList_concatenate(list, nullptr), 0);
     EXPECT_EQ(zu_StrList_insEnd(list, nullptr), 0);
+    EXPECT_TRUE(allAre(0, {zu_StrList_insSorted(list, nullptr), zu_StrList_modNth(list, 0, nullptr)}));
+    EXPECT_TRUE(allAre(-1, {zu_StrList_search(list, nullptr, 0), zu_StrList_search(list, W("b"), 1)}));
+    EXPECT_TRUE(allNull({zu_StrList_searchForString(list, nullptr, 0), zu_StrList_removeDuplicates(nullptr, 0),
+                         zu_StrList_toDelimitedStringList(nullptr, W(""), 1, 0), zu_StrList_getNth(list, -1),
+                         zu_StrList_fromDelimitedString(W("a"), nullptr)}));
     EXPECT_EQ(zu_StrList_count(list), 1u);
 }
 

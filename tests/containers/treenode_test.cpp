@@ -248,6 +248,9 @@ TEST(TreeNode, visitsThatDoNotHappen)
     EXPECT_EQ(zu_TreeNode_visitPre(nullptr, nullptr, visitUntil), nullptr);
     EXPECT_EQ(zu_TreeNode_visitPost(nullptr, nullptr, visitUntil), nullptr);
     EXPECT_EQ(zu_TreeNode_visitPost(family.parent, nullptr, nullptr), nullptr);
+    EXPECT_TRUE(
+        allNull({zu_TreeNode_visitPre(family.parent, nullptr, nullptr), zu_TreeNode_search(nullptr, W("x"), 1)}));
+    EXPECT_EQ(zu_TreeNode_setRoot(family.parent, nullptr), 0);
     EXPECT_TRUE(seen.empty());
 }
 

@@ -71,6 +71,7 @@ TEST_F(DbRows, unknownHandles)
         EXPECT_EQ(zu_Db_getFldStr(handle, W("A")), nullptr);
         EXPECT_EQ(zu_Db_seekStr(W("a"), handle, 0), ZU_DB_FAILED);
     }
+    EXPECT_EQ(zu_Db_readCurrRec(nullptr, 0), nullptr);
 }
 
 TEST_F(DbRows, fieldsByName)
@@ -82,6 +83,9 @@ TEST_F(DbRows, fieldsByName)
                                                   : (field[1] | 32) == W('o') ? W("x")
                                                                               : W("r0"));
     EXPECT_EQ(zu_Db_getFldStr(t, W("NAM")), nullptr);
+    EXPECT_EQ(zu_Db_getFldStr(t, nullptr), nullptr);
+    EXPECT_EQ(zu_Db_seekStr(nullptr, t, 0), ZU_DB_FAILED);
+    zu_Db_topRec(t, 0);
     zu_wchar* const value = zu_Db_getFldStr(t, W("name"));
     zu_Db_nextRec(t, 0);
     EXPECT_EQ(str(value), W("r0")) << "a copy";

@@ -304,6 +304,8 @@ TEST_F(DbTable, indexTags)
     EXPECT_EQ(zu_Db_createNdx(b, W("BYNAME"), W("DN")), 200);
     EXPECT_EQ(zu_Db_openNdx(a, W("byname")), 100);
     EXPECT_EQ(zu_Db_openNdx(b, W("ByName")), 200) << "of the table";
+    EXPECT_TRUE(allAre(-1, {zu_Db_openNdx(b, nullptr), zu_Db_createNdx(9, W("X"), W("TAG"))}));
+    EXPECT_EQ(zu_Db_struct(9), nullptr);
     EXPECT_EQ(zu_Db_openNdx(9, W("BYNAME")), -1);
     EXPECT_EQ(zu_Db_closeNdx(150), 1);
     EXPECT_EQ(zu_Db_openNdx(a, W("BYNAME")), -1);
@@ -347,6 +349,7 @@ TEST_F(DbTable, whatIsNotSupported)
     static_assert(sizeof(DbFldInfo) == 24);
     entries[1].name = static_cast<zu_wchar*>(zu_Malloc(8));
     zu_Db_freeFldInfo(entries, 3);
+    zu_Db_freeFldInfo(nullptr, 3);
 }
 
 } // namespace

@@ -99,6 +99,7 @@ TEST_F(DbWrite, modes)
     EXPECT_EQ(zu_Db_modRec(t, x.get()), ZU_DB_DONE);
     EXPECT_EQ(content(), (Texts{"b|2", "x|1"}));
     EXPECT_EQ(zu_Db_appRec(99), ZU_DB_FAILED);
+    EXPECT_TRUE(allAre(ZU_DB_FAILED + 0, {zu_Db_modRec(t, nullptr), zu_Db_modRec(99, x.get())}));
     while (zu_Db_nextRec(t, 0) == ZU_DB_DONE) {
     }
     driver.forget();

@@ -92,6 +92,7 @@ TEST(DbCursor, copiesHoldTheCompleteRows)
 
     Cursor other = cursorOf({W("x"), W("y")});
     EXPECT_EQ(zu_DbCursor_join(copy.get(), other.release()), 1);
+    EXPECT_EQ(zu_DbCursor_join(copy.get(), nullptr), 0);
     EXPECT_EQ(zu_DbCursor_length(copy.get()), 4u);
     EXPECT_EQ(str(zu_DbCursor_getCurrTblName(copy.get())), W("a"));
 }
@@ -102,8 +103,9 @@ TEST(DbCursor, badInputAndMemory)
     EXPECT_EQ(zu_DbCursor_insStart(nullptr, W("a"), fields), 0);
     EXPECT_EQ(zu_DbCursor_insEnd(nullptr, W("a"), fields), 0);
     EXPECT_EQ(zu_DbCursor_modCurr(nullptr, W("a"), fields), 0);
-    EXPECT_EQ(zu_DbCursor_destroy(nullptr), 0);
-    EXPECT_EQ(zu_DbCursor_copy(nullptr), nullptr);
+    EXPECT_TRUE(
+        allAre(0, {zu_DbCursor_destroy(nullptr), zu_DbCursor_delCurr(nullptr), zu_DbCursor_delNth(nullptr, 0)}));
+    EXPECT_TRUE(allNull({zu_DbCursor_copy(nullptr), zu_DbCursor_getNth(nullptr, 0)}));
     EXPECT_EQ(zu_DbCursorNode_destroy(nullptr), nullptr);
     DbCursorNode* const node = zu_DbCursorNode_create(W("a"), fields);
     EXPECT_EQ(node->fields, fields);

@@ -215,6 +215,7 @@ TEST(DbFldList, badInput)
     EXPECT_EQ(zu_DbFldList_copy(null), nullptr);
     zu_DbFldList_destroy(null);
     zu_DbFldList_freeValues(null);
+    zu_DbFldList_printList(null);
     EXPECT_EQ(zu_DbFldList_insEnd(null, W("a"), W("b"), 1, 1, 'C'), 0);
     EXPECT_EQ(zu_DbFldList_find(null, W("a")), 0);
     EXPECT_EQ(zu_DbFldList_eol(null), 1);
@@ -234,6 +235,11 @@ TEST(DbFldList, badInput)
         EXPECT_EQ(zu_DbFldList_modCurrPrec(without, 3), 0);
     }
     EXPECT_EQ(zu_DbFldList_find(list.get(), nullptr), 0);
+    EXPECT_TRUE(allAre(0, {zu_DbFldList_delFld(list.get(), nullptr), zu_DbFldList_delFld(null, W("a")),
+                           zu_DbFldList_delCurr(null), zu_DbFldNode_destroy(nullptr),
+                           zu_DbFldList_insStart(null, W("a"), W("b"), 1, 1, 'C')}));
+    EXPECT_TRUE(allNull({zu_DbFldList_findFld(list.get(), nullptr), zu_DbFldList_findFld(null, W("a")),
+                         zu_DbFldList_fromTemplate(nullptr)}));
     EXPECT_EQ(str(zu_DbFldList_getNthStr(list.get(), -1)), W(""));
 }
 

@@ -110,6 +110,8 @@ TEST(Cb, withoutADataFileLayerNothingIsFound)
     EXPECT_EQ(zu_Cb_createNdx(W("C:\\data\\pipe"), W("TAG,SIZE"), 1), 0);
     EXPECT_EQ(zu_Cb_i4create(nullptr, W("pipe"), W("TAG, SIZE"), 0, 1), 0);
     EXPECT_EQ(liveBlocks(), before);
+    EXPECT_TRUE(allAre(0, {zu_Cb_createNdx(nullptr, nullptr, 0), zu_Cb_i4create(nullptr, nullptr, nullptr, 0, 1),
+                           zu_c4atoi(nullptr, -1)}));
     sweepAllocations([] { EXPECT_EQ(zu_Cb_i4create(nullptr, W("pipe"), W("A,B"), 0, 1), 0); }, [] {});
     EXPECT_EQ(zu_Cb_findTag(nullptr, W("TAG000")), nullptr);
     EXPECT_EQ(zu_DbTagRef_sel(nullptr, 100), nullptr);
@@ -123,6 +125,9 @@ TEST(Cb, withoutADataFileLayerNothingIsFound)
     tags[0].name = static_cast<char*>(zu_Malloc(4));
     tags[0].filter = static_cast<char*>(zu_Malloc(4));
     zu_Cb_freeTags(tags, 1);
+    zu_Cb_freeTags(nullptr, 3);
+    zu_Cb_init(nullptr);
+    zu_DbRefNode_free(nullptr);
     EXPECT_EQ(liveBlocks(), before);
 }
 

@@ -154,6 +154,10 @@ TEST(FldList, missingFieldsAndNoCurrent)
     EXPECT_EQ(zu_FldList_currList(list.get(), &nested), -3) << "not -1";
     EXPECT_EQ(integer, 7);
     EXPECT_EQ(zu_FldList_delFld(list.get(), W("x")), 0);
+    EXPECT_TRUE(allAre(0, {zu_FldList_delFld(nullptr, W("x")), zu_FldList_copyFld(nullptr, W("C"), list.get(), W("x")),
+                           zu_FldList_copyFld(list.get(), W("x"), list.get(), W("x"))}));
+    EXPECT_EQ(zu_FldList_getChar(nullptr, W("x"), nullptr, 7), -2);
+    EXPECT_EQ(zu_FldList_find(nullptr, W("a")), nullptr);
 }
 
 TEST(FldList, textsAreCutToTheBuffer)
@@ -291,6 +295,7 @@ TEST(FldList, deletingAndANullList)
     EXPECT_EQ(zu_FldList_delCurr(list.get()), 1);
     EXPECT_EQ(zu_FldList_curr(list.get())->type, ZU_FLD_UNKNOWN);
     EXPECT_EQ(zu_FldList_appChar(nullptr, W("x"), W("y")), 1) << "appending to a null list is passed over";
+    EXPECT_EQ(zu_FldList_appList(nullptr, W("x"), zu_FldList_create(end)), 1);
     EXPECT_EQ(zu_FldList_destroy(nullptr), 0);
     EXPECT_EQ(zu_FldList_destroyNode(nullptr), 0);
     EXPECT_EQ(zu_FldList_destroyNode(zu_FldList_newChar(nullptr, nullptr)), 1);

@@ -36,6 +36,7 @@ TEST(FldListWhole, comparingFields)
     EXPECT_EQ(compare(a, W("I"), b), 0) << "larger is never told";
     EXPECT_EQ(compare(b, W("I"), a), -1);
     EXPECT_EQ(compare(a, W("N"), b), 0);
+    EXPECT_EQ(compare(b, W("N"), a), -1);
     EXPECT_GT(compare(a, W("C"), b), 0);
     EXPECT_EQ(compare(a, W("P"), b), 0) << "points never differ";
     EXPECT_EQ(compare(a, W("J"), b), -1) << "in 32-bit arithmetic";
@@ -73,6 +74,8 @@ TEST(FldListWhole, mergingByName)
     EXPECT_NE(zu_FldList_find(target.get(), W("d"))->value.list, zu_FldList_find(source.get(), W("d"))->value.list);
     EXPECT_EQ(zu_FldList_combine(target.get(), target.get()), 1);
     EXPECT_EQ(zu_FldList_combine(nullptr, source.get()), 0);
+    EXPECT_EQ(zu_FldList_combine(target.get(), nullptr), 0);
+    EXPECT_EQ(zu_FldList_diff(nullptr, source.get(), 1), nullptr);
 }
 
 TEST(FldListWhole, printing)

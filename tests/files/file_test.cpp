@@ -1,5 +1,6 @@
 #include "files_support.h"
 #include "support/memory.h"
+#include "zu_Dir.h"
 #include "zu_File.h"
 
 namespace {
@@ -155,6 +156,29 @@ TEST(File, badNames)
     }
     for (const auto& entry : entriesOf(sandbox))
         EXPECT_TRUE(entry == "good" || entry == "loop") << entry;
+}
+
+TEST(File, nullNamesAndStreams)
+{
+    Sandbox sandbox;
+    sandbox.write(W("good"), "x");
+    const Wide path = sandbox.path(W("good"));
+    const zu_wchar* const good = path.c_str();
+    StreamOf stream(sandbox, "good", "r+");
+    zu_wchar line[2];
+    int32_t time = 0;
+    EXPECT_TRUE(allAre(0, {zu_File_readLine(nullptr, line, 1), zu_File_encrypt(nullptr, good), zu_File_mend(nullptr),
+                           zu_File_decrypt(good, nullptr), zu_File_slice(nullptr, 5), zu_File_exists(nullptr),
+                           zu_Dir_exists(nullptr), zu_File_deleteSingle(nullptr), zu_File_deleteSingle(W("")),
+                           zu_File_delete(nullptr, 1), zu_File_delete(W(""), 0)}));
+    EXPECT_TRUE(allAre(1, {zu_File_append(nullptr, good), zu_File_copy(good, nullptr), zu_File_copy(nullptr, good),
+                           zu_File_copyRest(nullptr, stream), zu_File_copyRest(stream, nullptr),
+                           zu_File_getTime(good, nullptr), zu_File_getTime(nullptr, &time)}));
+    EXPECT_TRUE(allAre(-1, {zu_Dir_change(nullptr), zu_Dir_delete(nullptr), zu_File_move(nullptr, good),
+                            zu_File_setTime(nullptr, 1), zu_Dir_create(W("")), zu_Dir_deleteTree(nullptr)}));
+    EXPECT_TRUE(allNull({zu_Dir_getParent(nullptr), zu_Dir_list(nullptr), zu_File_readFile(nullptr),
+                         zu_File_readFileExactly(nullptr)}));
+    EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"good"}));
 }
 
 TEST(File, namesBeyondAscii)

@@ -152,12 +152,6 @@ inline std::vector<std::string> operator+(std::vector<std::string> a, const std:
     return a;
 }
 
-// Whether operations refused what they were given.
-inline bool areZero(const std::vector<int32_t>& results)
-{
-    return std::count(results.begin(), results.end(), 0) == static_cast<std::ptrdiff_t>(results.size());
-}
-
 // A call that must give 0, with the name that its lines must carry; REFUSAL_AS where that is another one, or none.
 #define REFUSAL(operation, ...)                                                                                        \
     {                                                                                                                  \

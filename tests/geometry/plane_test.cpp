@@ -34,11 +34,11 @@ TEST(Ray, holdsCopiesAndServesAsAPlane)
     EXPECT_EQ(zu_Ray_create(nullptr, &v), nullptr);
     EXPECT_EQ(zu_Plane_create(&p, nullptr), nullptr);
     Ray ray = {p, v};
-    EXPECT_TRUE(areZero({zu_Ray_destroy(nullptr), zu_Ray_set(&ray, nullptr, &w), zu_Ray_set(nullptr, &q, &w),
-                         zu_Ray_getPoint(nullptr, &ray), zu_Ray_getVector(&vector, nullptr), zu_Plane_destroy(nullptr),
-                         zu_Plane_set(&ray, &q, nullptr), zu_Plane_getPoint(&point, nullptr),
-                         zu_Plane_getOrthoVector(nullptr, &ray), zu_Plane_intersectionWithRay(nullptr, &ray, &ray),
-                         zu_Plane_intersectionWithRay(&point, &ray, nullptr)}));
+    EXPECT_TRUE(allAre(
+        0, {zu_Ray_destroy(nullptr), zu_Ray_set(&ray, nullptr, &w), zu_Ray_set(nullptr, &q, &w),
+            zu_Ray_getPoint(nullptr, &ray), zu_Ray_getVector(&vector, nullptr), zu_Plane_destroy(nullptr),
+            zu_Plane_set(&ray, &q, nullptr), zu_Plane_getPoint(&point, nullptr), zu_Plane_getOrthoVector(nullptr, &ray),
+            zu_Plane_intersectionWithRay(nullptr, &ray, &ray), zu_Plane_intersectionWithRay(&point, &ray, nullptr)}));
     EXPECT_EQ(at(ray.point), at(p));
 }
 

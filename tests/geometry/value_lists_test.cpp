@@ -214,12 +214,12 @@ TYPED_TEST(ValueLists, nullIsRefused)
     const auto one = this->value(1);
     this->append(1);
     TypeParam::start(this->list);
-    EXPECT_TRUE(areZero({TypeParam::destroy(nullptr), TypeParam::insStart(this->list, nullptr),
-                         TypeParam::insEnd(nullptr, &one), TypeParam::insBefore(this->list, nullptr),
-                         TypeParam::insAfter(nullptr, &one), TypeParam::insNth(this->list, 0, nullptr),
-                         TypeParam::modCurr(this->list, nullptr), TypeParam::modNth(nullptr, 0, &one),
-                         TypeParam::delCurr(nullptr), TypeParam::delNth(nullptr, 0), TypeParam::delAll(nullptr),
-                         TypeParam::skip(nullptr, 1)}));
+    EXPECT_TRUE(allAre(0, {TypeParam::destroy(nullptr), TypeParam::insStart(this->list, nullptr),
+                           TypeParam::insEnd(nullptr, &one), TypeParam::insBefore(this->list, nullptr),
+                           TypeParam::insAfter(nullptr, &one), TypeParam::insNth(this->list, 0, nullptr),
+                           TypeParam::modCurr(this->list, nullptr), TypeParam::modNth(nullptr, 0, &one),
+                           TypeParam::delCurr(nullptr), TypeParam::delNth(nullptr, 0), TypeParam::delAll(nullptr),
+                           TypeParam::skip(nullptr, 1)}));
     EXPECT_EQ(this->content(), std::vector<double>{1});
     EXPECT_EQ(TypeParam::copy(nullptr), nullptr);
     EXPECT_EQ(TypeParam::getNth(nullptr, 0), nullptr);

@@ -186,6 +186,9 @@ TEST(Com, countedTexts)
     EXPECT_EQ(SysStringLen(nullptr), 0u);
     EXPECT_EQ(SysAllocStringLen(W(""), 0xFFFFFFFF), nullptr) << "beyond the range";
     SysFreeString(nullptr);
+    void* const block = CoTaskMemAlloc(10);
+    EXPECT_NE(block, nullptr);
+    CoTaskMemFree(block);
 }
 
 VARIANT valueOf(int type, LONGLONG value = 0)
@@ -245,6 +248,7 @@ TEST(Com, arraysHoldTheFirstDimensionTogether)
     SAFEARRAY* const array = SafeArrayCreate(VT_I4, 2, bounds);
     ASSERT_NE(array, nullptr);
     EXPECT_EQ(SafeArrayGetDim(array), 2u);
+    EXPECT_EQ(SafeArrayGetElemsize(array), 4u);
     VARTYPE type = 0;
     EXPECT_EQ(SafeArrayGetVartype(array, &type), S_OK);
     EXPECT_EQ(type, VT_I4);

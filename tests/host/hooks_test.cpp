@@ -13,6 +13,7 @@ using namespace zutest;
 TEST(Drawing, onlyTheLastOneIsRemembered)
 {
     EXPECT_EQ(zu_Drawing_IsSaveIgnored(W("")), 0);
+    EXPECT_EQ(zu_Drawing_IsSaveIgnored(nullptr), 0);
     Wide name = W("C:\\Jobs\\Plan \u00e4.dwg");
     EXPECT_EQ(str(zu_Drawing_IgnoreSaveEvents(name.c_str(), 200)), name);
     const Wide stored = name;

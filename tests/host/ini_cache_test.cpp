@@ -247,7 +247,10 @@ TEST_F(BuiltInIniCache, badArguments)
     EXPECT_EQ(cache->Reserved1(), E_NOTIMPL);
     const auto group = cache.group(file, W("g"));
     EXPECT_EQ(group->get_Item(indexOf(VT_I4, 0), nullptr), E_POINTER);
-    EXPECT_EQ(group->RemoveAll(nullptr), E_POINTER);
+    EXPECT_TRUE(
+        allAre(E_POINTER, {group->RemoveAll(nullptr), group->get_Count(nullptr), group->get_Name(nullptr),
+                           cache->SetValue(nullptr, nullptr, nullptr, nullptr, nullptr),
+                           cache->RemoveGroup(nullptr, nullptr, nullptr), cache->GetGroup(nullptr, nullptr, nullptr)}));
     EXPECT_EQ(sandbox.read(W("zu.ini")), "[g]\nk=v\n");
 }
 

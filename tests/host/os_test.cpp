@@ -56,6 +56,7 @@ TEST(Os, theFileServiceDecidesWhatTheEditorShows)
     host.fail("FileService.FileExists", S_OK);
     host.calls();
     EXPECT_EQ(zu_Global_openFileinNotepad(W("")), 0);
+    EXPECT_EQ(zu_Global_openFileinNotepad(nullptr), 0);
     EXPECT_TRUE(host.calls().empty());
     host.hasFileService = false;
     zu_Global_destroyData();

@@ -101,6 +101,8 @@ TEST(SysLocations, whatTheHostNames)
     EXPECT_EQ(zu_Sys_setApplicationGroup(W("Piping")), 1);
     EXPECT_EQ(zu_Sys_getApplicationGroup(group, 4), 1);
     EXPECT_EQ(group.str(), W("Pipi"));
+    EXPECT_TRUE(allAre(0, {zu_Sys_getApplicationGroup(nullptr, 4), zu_Sys_setApplicationGroup(nullptr)}));
+    EXPECT_EQ(zu_Sys_getNetDir(nullptr), nullptr);
     EXPECT_EQ(zu_Sys_setShowModeSelectGUI(7), 0) << "written";
     EXPECT_EQ(zu_Sys_getShowModeSelectGUI(), 1);
     EXPECT_EQ(zu_Sys_setShowModeSelectGUI(0), 0);

@@ -50,6 +50,8 @@ TEST(Msg, escapes)
         {"a backspace is dropped", W("a\\bc\\b"), W("ac")},
         {"others drop both", W("a\\qb\\%c"), W("abc")},
         {"a number", W("\\101"), W("A")},
+        {"at most three digits", W("\\1019"), W("A9")},
+        {"a backslash at the end", W("abc\\"), W("abc")},
         {"digits beyond octal", W("\\9"), W("\t")},
         {"the bits carry over", W("\\101\\102"), Wide{W('A'), zu_wchar(0x8242)}},
         {"a zero ends the text", W("a\\0b"), W("a")},
@@ -115,6 +117,7 @@ TEST(Msg, manyAtOnce)
     EXPECT_EQ(str(zu_Msg_find(list, W("K3"))), W("K3")) << "exactly";
     EXPECT_EQ(str(zu_Msg_find(list, W("none"))), W("none"));
     EXPECT_EQ(zu_MsgList_destroy(list), 1);
+    EXPECT_EQ(zu_MsgList_destroy(nullptr), 0);
     EXPECT_EQ(str(zu_Msg_find(nullptr, nullptr)), W(""));
 
     // A first message with a null section and the initial number 0: the key serves again.
@@ -149,6 +152,7 @@ TEST(Msg, keywordLists)
     EXPECT_EQ(str(zu_MsgKeyWordList_find(list, W("Save"))), W("Save")) << "unknown ones come back";
     EXPECT_EQ(str(zu_MsgKeyWordList_find(list, nullptr)), W(""));
     EXPECT_EQ(zu_MsgKeyWordList_append(list, W("New"), W("Neu")), 0) << "0 even when done";
+    EXPECT_EQ(zu_MsgKeyWordList_append(list, nullptr, W("Neu")), 0);
     EXPECT_EQ(str(zu_MsgKeyWordList_find(list, W("NEW"))), W("Neu"));
     EXPECT_EQ(zu_LnkList_length(list), 4u);
     EXPECT_EQ(zu_MsgKeyWordList_destroy(list), 1);

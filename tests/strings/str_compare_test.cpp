@@ -34,6 +34,7 @@ TEST(Str, comparisonIgnoringCase)
     EXPECT_EQ(zu_Str_ncmpi(W("abX"), W("ABY"), 2), 0);
     EXPECT_EQ(zu_Str_ncmpi(W("abX"), W("ABY"), 3), -1);
     EXPECT_EQ(zu_Str_ncmpi(W("a"), W("b"), 0), 0);
+    EXPECT_EQ(zu_Str_ncmpi(nullptr, W("b"), 0), 0);
     const std::vector<zu_wchar> unterminated = {W('a'), W('b')};
     EXPECT_EQ(zu_Str_ncmpi(unterminated.data(), W("ABC"), 2), 0);
 }

@@ -116,6 +116,8 @@ TEST(Str, ncpyAnswersOneForExactlyCount)
     WideBuffer<3> copy;
     EXPECT_EQ(zu_Str_ncpy(copy, unterminated.data(), 2), 1);
     EXPECT_EQ(copy.str(), W("xy"));
+    EXPECT_EQ(zu_Str_ncpy(nullptr, W("a"), 1), 0);
+    EXPECT_TRUE(allNull({zu_Str_cpy(nullptr, W("a")), zu_Str_toLower(nullptr, W("a"))}));
 }
 
 TEST(Str, duplicates)

@@ -181,6 +181,7 @@ TEST(Str, replaceKeyword)
 
     WideBuffer<32> text{W("a <<n>> z")};
     EXPECT_EQ(zu_Str_replaceKeyword(nullptr, W("n"), W("%"), W("v"), 9), nullptr);
+    EXPECT_EQ(zu_Str_replaceKeyword(text, nullptr, W("%"), W("v"), 9), nullptr);
     EXPECT_EQ(zu_Str_replaceKeyword(text, W("n"), nullptr, W("v"), 9), nullptr);
     EXPECT_EQ(zu_Str_replaceKeyword(text, W("n"), W("%"), nullptr, 2), nullptr);
     EXPECT_EQ(text.str(), W("a <<n>> z"));

@@ -197,8 +197,8 @@ SQLRETURN SQL_API SQLDriverConnect(SQLHDBC connection, SQLHWND window, SQLCHAR* 
                                    SQLSMALLINT room, SQLSMALLINT* outLength, SQLUSMALLINT completion)
 {
     const std::string string = text(in, inLength);
-    // A file that another program holds is waited for, but not for long. The attribute stands first: a driver manager that
-    // is called through Wine can leave a stray character behind the end of a text that is not all ASCII.
+    // A file that another program holds is waited for, but not for long. The attribute stands first: a driver manager
+    // that is called through Wine can leave a stray character behind the end of a text that is not all ASCII.
     std::string passed = "Timeout=200;" + withoutDrive(string);
     return pass(SQLDriverConnect, "SQLDriverConnect", "SQLDriverConnect", string, connection, window, bytesOf(passed),
                 SQLSMALLINT{SQL_NTS}, out, room, outLength, completion);
