@@ -1,6 +1,5 @@
 #include "support/memory.h"
-#include "support/trace.h"
-#include "zu_Diag.h"
+#include "support/wide.h"
 #include "zu_LnkList.h"
 
 #include <random>
@@ -241,47 +240,28 @@ TEST(LnkList, behavesAsAVectorWithACursor)
     zu_LnkList_destroy(list, nullptr);
 }
 
-TEST(LnkList, create)
-{
-    LnkList* list = zu_LnkList_create(&pool[0], &pool[1], &pool[2], static_cast<void*>(nullptr));
-    EXPECT_EQ(contentOf(list), (std::vector<void*>{&pool[0], &pool[1], &pool[2]}));
-    EXPECT_EQ(list->current, list->first);
-    freed.clear();
-    EXPECT_EQ(zu_LnkList_destroy(list, noteFreed), 1);
-    EXPECT_EQ(freed, (std::vector<void*>{&pool[0], &pool[1], &pool[2]})) << "from the head";
-    list = zu_LnkList_create(nullptr);
-    EXPECT_EQ(zu_LnkList_length(list), 0u);
-    EXPECT_EQ(zu_LnkList_eol(list), 1);
-    zu_LnkList_destroy(list, noteFreed);
-}
-
 TEST(LnkList, join)
 {
-    const struct
-    {
-        const char* what;
-        std::vector<void*> a, b;
-    } rows[] = {
+    const std::tuple<const char*, std::vector<void*>, std::vector<void*>> rows[] = {
         {"both", {&pool[0], &pool[1]}, {&pool[2], &pool[3]}},
         {"first empty", {}, {&pool[2], nullptr}},
         {"second empty", {&pool[0]}, {}},
-        {"both empty", {}, {}},
     };
-    for (const auto& row : rows) {
+    for (const auto& [what, rowA, b] : rows) {
         const int64_t before = liveBlocks();
-        LnkList* const a = listOf(row.a);
+        LnkList* const a = listOf(rowA);
         Model expected;
-        expected.content = row.a;
-        expected.content.insert(expected.content.end(), row.b.begin(), row.b.end());
+        expected.content = rowA;
+        expected.content.insert(expected.content.end(), b.begin(), b.end());
         expected.setPos(0);
-        EXPECT_EQ(zu_LnkList_join(a, listOf(row.b)), 1);
-        expectSame(a, expected, row.what);
+        EXPECT_EQ(zu_LnkList_join(a, listOf(b)), 1);
+        expectSame(a, expected, what);
         zu_LnkList_destroy(a, nullptr);
-        EXPECT_EQ(liveBlocks(), before) << row.what;
+        EXPECT_EQ(liveBlocks(), before) << what;
     }
     LnkList* const list = listOf({&pool[0], &pool[1]});
-    EXPECT_EQ(zu_LnkList_join(list, nullptr), 0);
     EXPECT_EQ(zu_LnkList_join(nullptr, list), 0);
+    EXPECT_EQ(zu_LnkList_join(list, nullptr), 0);
     EXPECT_EQ(zu_LnkList_join(list, list), 0);
     EXPECT_EQ(contentOf(list), (std::vector<void*>{&pool[0], &pool[1]}));
     zu_LnkList_destroy(list, nullptr);
@@ -348,31 +328,6 @@ TEST(LnkList, skipsOfAnyLengthEnd)
     EXPECT_EQ(zu_LnkList_getNth(list, INT32_MAX), nullptr);
     EXPECT_EQ(zu_LnkList_move(list, 0, INT32_MAX), 0);
     zu_LnkList_destroy(list, nullptr);
-}
-
-TEST(LnkList, traceLinesNest)
-{
-    LnkList* const list = listOf({&pool[0]});
-    LnkList* const other = listOf({});
-    TraceCapture trace(ZU_DIAG_LNKLIST);
-    const auto traced = [&](std::initializer_list<const char*> names) {
-        std::vector<std::string> lines;
-        for (std::string name : names)
-            lines.push_back("lnklist " + std::string(name[0] == '<' ? "Exiting" : "Entering") + " zu_LnkList_" +
-                            name.substr(1) + ".");
-        EXPECT_EQ(trace.lines(), lines);
-    };
-    zu_LnkList_insNth(list, 0, &pool[1]);
-    traced({">insNth", ">getNth", "<getNth", ">insBefore", "<insBefore", "<insNth"});
-    zu_LnkList_getNthSavePos(list, 0);
-    traced({">getNthSavePos", ">getPos", ">setPos", "<setPos", "<getPos", ">getNth", "<getNth", ">setPos", "<setPos",
-            "<getNthSavePos"});
-    zu_LnkList_prev(list);
-    traced({">prev", ">skip", "<skip", "<prev"});
-    zu_LnkList_join(list, other);
-    traced({">join", ">start", "<start", ">destroy", ">delAll", "<delAll", "<destroy", "<join"});
-    zu_LnkList_destroy(list, nullptr);
-    traced({">destroy", ">delAll", "<delAll", "<destroy"});
 }
 
 } // namespace

@@ -1,8 +1,6 @@
 // What every operation answers when a call underneath it fails, and that nothing is lost by it.
-#include "allocation.h"
 #include "driver.h"
 #include "support/memory.h"
-#include "zu_Db.h"
 #include "zu_Memory.h"
 
 #include <gtest/gtest-spi.h>
@@ -18,7 +16,7 @@ using Texts = std::vector<std::string>;
 constexpr const char* queryFailed = "SQL query failed.";
 constexpr const char* connectionFailed = "Connect to Test DataSource failed.";
 
-class DbFailure : public testing::Test
+class DbFailure : public TableTest
 {
 public:
     DbFailure()
@@ -26,76 +24,47 @@ public:
         runSql(file, createTable("t", "A VARCHAR(4), L INTEGER", {"'a', 1", "'b', 2", "'c', 3"}));
         driver.forget();
     }
-
-    Sandbox sandbox;
-    Driver driver;
-    std::filesystem::path file = sandbox.native(W("t.db3"));
 };
 
 // An operation on a table whose second row is current and read; the result as a number.
 using Operation = int32_t (*)(int32_t table, DbFldList* values);
 
-int32_t isThere(DbFldList* list)
+// A list as its length; -1 for none.
+int32_t lengthOf(DbFldList* list)
 {
     const int32_t length = list == nullptr ? -1 : static_cast<int32_t>(zu_DbFldList_length(list));
     zu_DbFldList_destroy(list);
     return length;
 }
 
-int32_t top(int32_t table, DbFldList*)
-{
-    return zu_Db_topRec(table, 0);
-}
-int32_t next(int32_t table, DbFldList*)
-{
-    return zu_Db_nextRec(table, 0);
-}
-int32_t previous(int32_t table, DbFldList*)
-{
-    return zu_Db_prevRec(table, 0);
-}
-int32_t bottom(int32_t table, DbFldList*)
-{
-    return zu_Db_botRec(table, 0);
-}
-int32_t structure(int32_t table, DbFldList*)
-{
-    return isThere(zu_Db_struct(table));
-}
-int32_t freshStructure(int32_t table, DbFldList*)
-{
-    zu_Db_appRec(table);
-    return isThere(zu_Db_readRec(table, 0));
-}
-int32_t count(int32_t table, DbFldList*)
-{
-    return zu_Db_getRecordCount(table);
-}
-int32_t read(int32_t table, DbFldList*)
+int32_t unread(int32_t table)
 {
     zu_Db_appRec(table);
     zu_DbRef_sel(table)->mode = ZU_DB_OPENED;
-    return isThere(zu_Db_readRec(table, 0));
+    return table;
 }
-int32_t field(int32_t table, DbFldList*)
+
+int32_t appended(int32_t table)
 {
     zu_Db_appRec(table);
-    zu_DbRef_sel(table)->mode = ZU_DB_OPENED;
-    return zu_Db_getFldStr(table, W("A")) != nullptr;
+    return table;
 }
-int32_t seek(int32_t table, DbFldList*)
+
+struct On
 {
-    return zu_Db_seekStr(W("a"), table, 0);
-}
-int32_t insert(int32_t table, DbFldList* values)
-{
-    zu_Db_appRec(table);
-    return zu_Db_modRec(table, values);
-}
-int32_t update(int32_t table, DbFldList* values)
-{
-    return zu_Db_modRec(table, values);
-}
+    static int32_t top(int32_t table, DbFldList*) { return zu_Db_topRec(table, 0); }
+    static int32_t next(int32_t table, DbFldList*) { return zu_Db_nextRec(table, 0); }
+    static int32_t previous(int32_t table, DbFldList*) { return zu_Db_prevRec(table, 0); }
+    static int32_t bottom(int32_t table, DbFldList*) { return zu_Db_botRec(table, 0); }
+    static int32_t structure(int32_t table, DbFldList*) { return lengthOf(zu_Db_struct(table)); }
+    static int32_t blank(int32_t table, DbFldList*) { return lengthOf(zu_Db_readRec(appended(table), 0)); }
+    static int32_t count(int32_t table, DbFldList*) { return zu_Db_getRecordCount(table); }
+    static int32_t read(int32_t table, DbFldList*) { return lengthOf(zu_Db_readRec(unread(table), 0)); }
+    static int32_t field(int32_t table, DbFldList*) { return zu_Db_getFldStr(unread(table), W("A")) != nullptr; }
+    static int32_t seek(int32_t table, DbFldList*) { return zu_Db_seekStr(W("a"), table, 0); }
+    static int32_t insert(int32_t table, DbFldList* values) { return zu_Db_modRec(appended(table), values); }
+    static int32_t update(int32_t table, DbFldList* values) { return zu_Db_modRec(table, values); }
+};
 
 constexpr const char* allocation = "SQLAllocHandle:STMT";
 
@@ -110,55 +79,39 @@ const struct
     const char* printed;
     bool isOpen; // whether there is a row afterwards
 } statusRows[] = {
-    {"top, no statement", top, allocation, 1, odbcError, 1, "", false},
-    {"top, select", top, "SQLExecDirect", 1, odbcError, 1, queryFailed, false},
-    {"top, select with information", top, "SQLExecDirect", 1, odbcInformation, 0, "", true},
-    {"top, columns", top, "SQLNumResultCols", 1, odbcError, 1, "", false},
-    {"top, description: what was bound is read", top, "SQLDescribeCol", 2, odbcError, 0, "", true},
-    {"top, description with information", top, "SQLDescribeCol", 1, odbcInformation, 0, "", true},
-    {"top, binding", top, "SQLBindCol", 2, odbcError, 1, "", false},
-    {"top, row", top, "SQLFetch", 1, odbcError, 1, "", false},
-    {"top, row with information", top, "SQLFetch", 1, odbcInformation, 1, "", false},
-    {"next, row", next, "SQLFetch", 1, odbcError, 3, "", false},
-    {"next, row with information", next, "SQLFetch", 1, odbcInformation, 3, "", false},
-    {"next, end", next, "SQLFetch", 1, odbcNoData, 3, "", false},
-    {"previous, no statement", previous, allocation, 1, odbcError, 3, "", false},
-    {"previous, select", previous, "SQLExecDirect", 1, odbcError, 3, queryFailed, false},
-    {"previous, row", previous, "SQLFetch", 1, odbcError, 3, "", false},
-    {"bottom, row", bottom, "SQLFetch", 1, odbcError, 0, "", true},
-    {"bottom, row with information", bottom, "SQLFetch", 1, odbcInformation, 0, "", true},
-    {"structure, select", structure, "SQLExecDirect", 1, odbcError, -1, "", false},
-    {"structure, select with information", structure, "SQLExecDirect", 1, odbcInformation, 2, "", true},
-    {"structure, columns", structure, "SQLNumResultCols", 1, odbcError, -1, "", false},
-    {"structure, description", structure, "SQLDescribeCol", 2, odbcError, -1, "", false},
-    {"structure, binding", structure, "SQLBindCol", 1, odbcError, -1, "", false},
-    {"structure, no statement", freshStructure, allocation, 1, odbcError, -1, "", false},
-    {"blank row, select", freshStructure, "SQLExecDirect", 1, odbcError, -1, "", false},
-    {"count, no statement", count, allocation, 1, odbcError, 0, "", true},
-    {"count, select", count, "SQLExecDirect", 1, odbcError, 0, "", true},
-    {"count, binding", count, "SQLBindCol", 1, odbcError, 0, "", true},
-    {"count, row", count, "SQLFetch", 1, odbcError, 0, "", true},
-    {"count, no row", count, "SQLFetch", 1, odbcNoData, 0, "", true},
-    {"count, too many digits", count, "SQLFetch", 1, odbcInformation, 0, "", true},
-    {"read, no statement", read, allocation, 1, odbcError, -1, "", false},
-    {"read, select", read, "SQLExecDirect", 1, odbcError, -1, queryFailed, false},
-    {"read, row", read, "SQLFetch", 1, odbcError, -1, "", false},
-    {"field, select", field, "SQLExecDirect", 1, odbcError, 0, queryFailed, false},
-    {"field, row", field, "SQLFetch", 1, odbcNoData, 0, "", false},
-    {"seek, way round", seek, "SQLExecDirect", 1, odbcError, 1, queryFailed, false},
-    {"seek, first row of the way round", seek, "SQLFetch", 3, odbcError, 1, "", false},
-    {"insert, no statement", insert, allocation, 1, odbcError, 1, "", false},
-    {"insert", insert, "SQLExecDirect", 1, odbcError, 1, queryFailed, false},
-    {"insert with information", insert, "SQLExecDirect", 1, odbcInformation, 0, "", true},
-    {"update, no statement", update, allocation, 1, odbcError, 1, "", true},
-    {"update", update, "SQLExecDirect", 1, odbcError, 1, "", true},
-    {"update without a row", update, "SQLExecDirect", 1, odbcNoData, 0, "", true},
+    {"top, no statement", On::top, allocation, 1, odbcError, 1, "", false},
+    {"top, select", On::top, "SQLExecDirect", 1, odbcError, 1, queryFailed, false},
+    {"top, select with information", On::top, "SQLExecDirect", 1, odbcInformation, 0, "", true},
+    {"top, columns", On::top, "SQLNumResultCols", 1, odbcError, 1, "", false},
+    {"top, description: what was bound is read", On::top, "SQLDescribeCol", 2, odbcError, 0, "", true},
+    {"top, binding", On::top, "SQLBindCol", 2, odbcError, 1, "", false},
+    {"top, row", On::top, "SQLFetch", 1, odbcError, 1, "", false},
+    {"top, row with information", On::top, "SQLFetch", 1, odbcInformation, 1, "", false},
+    {"next, row", On::next, "SQLFetch", 1, odbcError, 3, "", false},
+    {"previous, select", On::previous, "SQLExecDirect", 1, odbcError, 3, queryFailed, false},
+    {"structure, select", On::structure, "SQLExecDirect", 1, odbcError, -1, "", false},
+    {"structure, columns", On::structure, "SQLNumResultCols", 1, odbcError, -1, "", false},
+    {"structure, description", On::structure, "SQLDescribeCol", 2, odbcError, -1, "", false},
+    {"structure, binding", On::structure, "SQLBindCol", 1, odbcError, -1, "", false},
+    {"blank row, select", On::blank, "SQLExecDirect", 1, odbcError, -1, "", false},
+    {"count, no statement", On::count, allocation, 1, odbcError, 0, "", true},
+    {"count, select", On::count, "SQLExecDirect", 1, odbcError, 0, "", true},
+    {"count, binding", On::count, "SQLBindCol", 1, odbcError, 0, "", true},
+    {"count, row", On::count, "SQLFetch", 1, odbcError, 0, "", true},
+    {"read, select", On::read, "SQLExecDirect", 1, odbcError, -1, queryFailed, false},
+    {"field, select", On::field, "SQLExecDirect", 1, odbcError, 0, queryFailed, false},
+    {"seek, way round", On::seek, "SQLExecDirect", 1, odbcError, 1, queryFailed, false},
+    {"seek, first row of the way round", On::seek, "SQLFetch", 3, odbcError, 1, "", false},
+    {"insert", On::insert, "SQLExecDirect", 1, odbcError, 1, queryFailed, false},
+    {"update, no statement", On::update, allocation, 1, odbcError, 1, "", true},
+    {"update", On::update, "SQLExecDirect", 1, odbcError, 1, "", true},
+    {"update without a row", On::update, "SQLExecDirect", 1, odbcNoData, 0, "", true},
 };
 
 TEST_F(DbFailure, everyCallMayFail)
 {
     const Wide path = sandbox.path(W("t"));
-    DbFldList* const values = zu_DbFldList_create(W("A"), W("new"), static_cast<const zu_wchar*>(nullptr));
+    DbFldList* const values = zu_DbFldList_create(W("A"), W("new"), none);
     zu_Db_closeDb(zu_Db_openDb(path.c_str())); // its connection stays
     const int64_t blocks = liveBlocks();
     for (const auto& row : statusRows) {
@@ -181,7 +134,7 @@ TEST_F(DbFailure, everyCallMayFail)
             EXPECT_EQ(str(zu_Db_getFldStr(table, W("A"))), W("a"));
         }
         EXPECT_EQ(driver.calls("SQLFreeHandle:STMT").size(),
-                  driver.calls(allocation).size() + (row.isOpen && row.operation != insert ? 1u : 0u))
+                  driver.calls(allocation).size() + (row.isOpen && row.operation != On::insert ? 1u : 0u))
             << "no statement is left";
         EXPECT_EQ(liveBlocks(), blocks);
     }
@@ -209,29 +162,24 @@ TEST_F(DbFailure, aRowWithInformationEndsTheWayToTheLastOne)
 
 TEST_F(DbFailure, connections)
 {
-    const struct
-    {
-        const char* what;
-        const char* call;
-        int failure;
-        int32_t handle; // 0 here means any
-    } rows[] = {
+    // 0 here means any
+    const std::tuple<const char*, const char*, int, int32_t> rows[] = {
         {"refused", "SQLDriverConnect", odbcError, -1},
         {"the driver has no connection", "SQLAllocHandle:DBC", odbcError, -1},
         {"made with information", "SQLDriverConnect", odbcInformation, 0},
     };
     int32_t number = 0;
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.what);
+    for (const auto& [what, call, failure, rowHandle] : rows) {
+        SCOPED_TRACE(what);
         const Wide name = W("t") + widen(std::to_string(number)) + W(".db3");
         runSql(sandbox.native(name), createTable("t" + std::to_string(number), "A VARCHAR(4)", {"'a'"}));
-        driver.plan({{row.call, 1, row.failure}});
+        driver.plan({{call, 1, failure}});
         int32_t handle = 0;
         EXPECT_EQ(printedBy([&] { handle = zu_Db_openDb(sandbox.path(name).c_str()); }), connectionFailed);
-        EXPECT_EQ(handle, row.handle < 0 ? -1 : number);
+        EXPECT_EQ(handle, rowHandle < 0 ? -1 : number);
         driver.plan({});
         ASSERT_NE(zu_DbRef_sel(number), nullptr) << "the record is there either way";
-        EXPECT_EQ(zu_Db_topRec(number, 0), row.handle < 0 ? ZU_DB_FAILED : ZU_DB_DONE);
+        EXPECT_EQ(zu_Db_topRec(number, 0), rowHandle < 0 ? ZU_DB_FAILED : ZU_DB_DONE);
         ++number;
     }
     while (number > 0)
@@ -251,15 +199,15 @@ TEST_F(DbFailure, withoutMemory)
         [&] { EXPECT_EQ(handle, -1); });
 
     const Table table(path);
-    DbFldList* const values = zu_DbFldList_create(W("A"), W("x"), static_cast<const zu_wchar*>(nullptr));
+    DbFldList* const values = zu_DbFldList_create(W("A"), W("x"), none);
     const struct
     {
         const char* what;
         Operation operation;
         int32_t failure;
     } rows[] = {
-        {"top", top, ZU_DB_FAILED}, {"fresh structure", freshStructure, -1}, {"count", count, 0}, {"read", read, -1},
-        {"field", field, 0},        {"insert", insert, ZU_DB_FAILED},
+        {"top", On::top, ZU_DB_FAILED}, {"blank", On::blank, -1}, {"count", On::count, 0},
+        {"read", On::read, -1},         {"field", On::field, 0},  {"insert", On::insert, ZU_DB_FAILED},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.what);

@@ -1,21 +1,11 @@
 #include "driver.h"
 #include "support/memory.h"
-#include "support/trace.h"
-#include "zu_DbFldList.h"
 #include "zu_Diag.h"
 #include "zu_Memory.h"
 
 namespace {
 
 using namespace zutest;
-
-struct ListDeleter
-{
-    void operator()(DbFldList* list) const { zu_DbFldList_destroy(list); }
-};
-using List = std::unique_ptr<DbFldList, ListDeleter>;
-
-constexpr const zu_wchar* none = nullptr;
 
 List listOf(std::initializer_list<WideLiteral> names)
 {
@@ -38,34 +28,20 @@ TEST(DbFldList, createMakesUpperCaseTextFields)
     EXPECT_EQ(zu_DbFldList_next(list.get()), 1);
     EXPECT_EQ(str(zu_DbFldList_getNth(list.get(), 1)->name), W("TAG"));
     EXPECT_EQ(str(zu_DbFldList_getNth(list.get(), 1)->value), W("")) << "a null value is an empty one here";
-    const List empty(zu_DbFldList_create(nullptr));
-    EXPECT_EQ(zu_DbFldList_length(empty.get()), 0u);
 }
 
 TEST(DbFldList, valuesAreStoredTrimmed)
 {
-    const struct
-    {
-        const char* what;
-        zu_wchar type;
-        WideLiteral given;
-        WideLiteral stored;
-    } rows[] = {
-        {"number", 'N', W("  12.5  "), W("12.5")},
-        {"number of the other kind", 'f', W("  12.5  "), W("12.5")},
-        {"text", 'C', W("  12.5  "), W("  12.5")},
-        {"whole number", 'L', W(" 7 "), W(" 7")},
-        {"all blanks", 'C', W("   "), W("")},
-        {"all blanks in a number", 'N', W("   "), W("")},
-        {"no-break space", 'C', W("a\u00a0\t"), W("a")},
-        {"inner blanks", 'N', W(" 1 2 "), W("1 2")},
-        {"none", 'C', nullptr, nullptr},
+    const std::tuple<const char*, zu_wchar, WideLiteral, WideLiteral> rows[] = {
+        {"number", 'N', W("  12.5  "), W("12.5")},       {"number of the other kind", 'f', W("  12.5  "), W("12.5")},
+        {"text", 'C', W("  12.5  "), W("  12.5")},       {"all blanks", 'C', W("   "), W("")},
+        {"no-break space", 'C', W("a\u00a0\t"), W("a")}, {"none", 'C', nullptr, nullptr},
     };
-    for (const auto& row : rows) {
-        DbFldNode* const field = zu_DbFldNode_new(W("x"), row.given, 5, 1, row.type);
+    for (const auto& [what, type, given, stored] : rows) {
+        DbFldNode* const field = zu_DbFldNode_new(W("x"), given, 5, 1, type);
         ASSERT_NE(field, nullptr);
-        EXPECT_EQ(str(field->value), str(row.stored)) << row.what;
-        EXPECT_EQ(field->type, row.type & ~0x20) << row.what;
+        EXPECT_EQ(str(field->value), str(stored)) << what;
+        EXPECT_EQ(field->type, type & ~0x20) << what;
         EXPECT_EQ(zu_DbFldNode_destroy(field), 1);
     }
 }
@@ -81,7 +57,6 @@ TEST(DbFldList, aValueMayBeSetFromItself)
     EXPECT_EQ(field->value, nullptr);
     EXPECT_EQ(str(zu_DbFldList_getCurrStr(list.get())), W(""));
     EXPECT_EQ(str(zu_DbFldList_getCurrStrPadded(list.get())), W("        "));
-    EXPECT_EQ(zu_DbFldList_getCurrInt(list.get()), 0);
 }
 
 TEST(DbFldList, findWantsStoredUpperCaseAndFindFldDoesNot)
@@ -91,20 +66,16 @@ TEST(DbFldList, findWantsStoredUpperCaseAndFindFldDoesNot)
     EXPECT_EQ(zu_LnkList_getPos(list.get()), 1);
     EXPECT_EQ(zu_DbFldList_find(list.get(), W("DIA")), 0) << "a beginning of the name";
     EXPECT_EQ(zu_DbFldList_eol(list.get()), 1);
-    EXPECT_EQ(zu_DbFldList_find(list.get(), W("GR\u00f6\u00dfE")), 0);
     EXPECT_EQ(zu_DbFldList_findFld(list.get(), W("DIAM")), zu_DbFldList_getNth(list.get(), 0)) << "the first one";
     EXPECT_EQ(zu_DbFldList_findFld(list.get(), W("gR\u00f6\u00dfE")), zu_DbFldList_getNth(list.get(), 3));
     EXPECT_EQ(zu_LnkList_getPos(list.get()), 3);
     EXPECT_EQ(zu_DbFldList_findFld(list.get(), W("DIAMETER")), nullptr);
     EXPECT_EQ(zu_DbFldList_eol(list.get()), 1);
     EXPECT_EQ(str(zu_DbFldList_getFldVal(list.get(), W("DIAM"))), W("Diam"));
-    EXPECT_EQ(str(zu_DbFldList_getFldVal(list.get(), W("x"))), W(""));
     EXPECT_EQ(zu_DbFldList_modFldVal(list.get(), W("diam"), W("new ")), 1);
     EXPECT_EQ(str(zu_DbFldList_getNthStr(list.get(), 0)), W("new"));
-    EXPECT_EQ(zu_DbFldList_modFldVal(list.get(), W("x"), W("new")), 0);
     EXPECT_EQ(zu_DbFldList_delFld(list.get(), W("diam")), 1);
     EXPECT_EQ(str(zu_DbFldList_getNth(list.get(), 1)->name), W("diam")) << "only the upper-case one went";
-    EXPECT_EQ(zu_DbFldList_delFld(list.get(), W("diam")), 0);
 }
 
 TEST(DbFldList, readersCutAndPad)
@@ -112,7 +83,6 @@ TEST(DbFldList, readersCutAndPad)
     const List list = listOf({W("ABC")});
     zu_DbFldList_start(list.get());
     EXPECT_EQ(str(zu_DbFldList_getCurrStrPadded(list.get())), W("ABC     "));
-    EXPECT_EQ(str(zu_DbFldList_getNthStrPadded(list.get(), 0)), W("ABC     "));
     EXPECT_EQ(zu_DbFldList_modCurrWidth(list.get(), 2), 8);
     EXPECT_EQ(zu_DbFldList_modCurrPrec(list.get(), 5), 2);
     EXPECT_EQ(zu_DbFldList_getCurrWidth(list.get()), 2);
@@ -143,7 +113,6 @@ TEST(DbFldList, positions)
     EXPECT_EQ(str(zu_DbFldList_getCurrName(list.get())), W("A"));
     EXPECT_EQ(str(zu_DbFldList_getNthStr(list.get(), 2)), W(""));
     EXPECT_EQ(str(zu_DbFldList_getNthStrPadded(list.get(), 2)), W("")) << "not the width of another field";
-    EXPECT_EQ(zu_DbFldList_modNthVal(list.get(), 2, W("x")), 0);
     EXPECT_EQ(zu_DbFldList_insStart(list.get(), Wide(70, W('n')).c_str(), nullptr, 1, 0, 'L'), 1);
     EXPECT_EQ(str(zu_DbFldList_getNth(list.get(), 0)->name), Wide(63, W('n')));
     zu_DbFldList_freeValues(list.get());
@@ -167,7 +136,6 @@ TEST(DbFldList, copiesAreDeepAndExact)
     EXPECT_EQ(zu_DbFldList_getNth(copy.get(), 0)->precision, 9u);
     EXPECT_EQ(str(zu_DbFldList_getNth(copy.get(), 1)->value), W(" "));
     EXPECT_NE(zu_DbFldList_getNth(copy.get(), 1)->value, field->value);
-    EXPECT_EQ(zu_DbFldList_getNth(copy.get(), 1)->width, 8u);
 }
 
 TEST(DbFldList, descriptors)
@@ -185,13 +153,10 @@ TEST(DbFldList, descriptors)
         {"as it is", W("DIAMETER N010003"), 1, W("DIAMETER"), 'N', 10, 3},
         {"in lower case", W("  pipe   c030000"), 1, W("PIPE"), 'C', 30, 0},
         {"an eighth character", W("PIPE C0300001 text"), 1, W("PIPE"), 'C', 30, 0},
-        {"text behind it", W("PIPE C030000 text"), 1, W("PIPE"), 'C', 30, 0},
         {"no digits", W("PIPE C-10+05"), 1, W("PIPE"), 'C', 0, 0},
         {"too short", W("PIPE C1 0000"), 0, W("PIPE"), '?', 99, 99},
-        {"much too short", W("PIPE C30"), 0, W("PIPE"), '?', 99, 99},
         {"no blank", W("PIPE\tC030000"), 0, W("PIPE\tC030000"), '?', 99, 99},
         {"no specification", W("C030000"), 0, W("C030000"), '?', 99, 99},
-        {"blanks", W("   "), 0, W(""), '?', 99, 99},
         {"null", nullptr, 0, W(""), '?', 99, 99},
     };
     for (const auto& row : rows) {
@@ -232,7 +197,6 @@ TEST(DbFldList, templates)
     EXPECT_EQ(zu_DbFldList_fromTemplate(sandbox.path(W("bad.tpl")).c_str()), nullptr);
     EXPECT_EQ(zu_DbFldList_fromTemplate(sandbox.path(W("none.tpl")).c_str()), nullptr);
     EXPECT_EQ(zu_DbFldList_fromTemplate(sandbox.path().c_str()), nullptr) << "a directory";
-    EXPECT_EQ(zu_DbFldList_fromTemplate(nullptr), nullptr);
 }
 
 TEST(DbFldList, printing)
@@ -245,18 +209,6 @@ TEST(DbFldList, printing)
     EXPECT_EQ(zu_LnkList_getPos(list.get()), 0);
 }
 
-TEST(DbFldList, destroyingTracesUnderTheStatedNames)
-{
-    DbFldNode* const field = zu_DbFldNode_new(nullptr, nullptr, 0, 0, 'C');
-    EXPECT_EQ(str(field->name), W(""));
-    TraceCapture trace(ZU_DIAG_DBFLD);
-    EXPECT_EQ(zu_DbFldNode_destroy(field), 1);
-    EXPECT_EQ(zu_DbFldNode_destroy(nullptr), 0);
-    const std::string entry = "dbfld Entering zu_DbFldNode_destroy.";
-    const std::string exit = "dbfld Entering zu_StrListNode_destroy.";
-    EXPECT_EQ(trace.lines(), (std::vector<std::string>{entry, exit, entry, exit}));
-}
-
 TEST(DbFldList, badInput)
 {
     DbFldList* const null = nullptr;
@@ -264,12 +216,8 @@ TEST(DbFldList, badInput)
     zu_DbFldList_destroy(null);
     zu_DbFldList_freeValues(null);
     zu_DbFldList_printList(null);
-    EXPECT_EQ(zu_DbFldList_insStart(null, W("a"), W("b"), 1, 1, 'C'), 0);
     EXPECT_EQ(zu_DbFldList_insEnd(null, W("a"), W("b"), 1, 1, 'C'), 0);
     EXPECT_EQ(zu_DbFldList_find(null, W("a")), 0);
-    EXPECT_EQ(zu_DbFldList_findFld(null, W("a")), nullptr);
-    EXPECT_EQ(zu_DbFldList_delFld(null, W("a")), 0);
-    EXPECT_EQ(zu_DbFldList_delCurr(null), 0);
     EXPECT_EQ(zu_DbFldList_eol(null), 1);
     EXPECT_EQ(zu_DbFldNode_fromFld(nullptr), nullptr);
     const List list = listOf({W("A")});
@@ -287,8 +235,11 @@ TEST(DbFldList, badInput)
         EXPECT_EQ(zu_DbFldList_modCurrPrec(without, 3), 0);
     }
     EXPECT_EQ(zu_DbFldList_find(list.get(), nullptr), 0);
-    EXPECT_EQ(zu_DbFldList_delFld(list.get(), nullptr), 0);
-    EXPECT_EQ(zu_DbFldList_findFld(list.get(), nullptr), nullptr);
+    EXPECT_TRUE(allAre(0, {zu_DbFldList_delFld(list.get(), nullptr), zu_DbFldList_delFld(null, W("a")),
+                           zu_DbFldList_delCurr(null), zu_DbFldNode_destroy(nullptr),
+                           zu_DbFldList_insStart(null, W("a"), W("b"), 1, 1, 'C')}));
+    EXPECT_TRUE(allNull({zu_DbFldList_findFld(list.get(), nullptr), zu_DbFldList_findFld(null, W("a")),
+                         zu_DbFldList_fromTemplate(nullptr)}));
     EXPECT_EQ(str(zu_DbFldList_getNthStr(list.get(), -1)), W(""));
 }
 
@@ -297,29 +248,10 @@ TEST(DbFldList, withoutMemory)
     Sandbox sandbox;
     sandbox.write(W("t.tpl"), "A C001000\nB C002000\n");
     const Wide path = sandbox.path(W("t.tpl"));
-    DbFldList* list = nullptr;
-    const auto isNull = [&] {
-        EXPECT_EQ(list, nullptr);
-    };
-    sweepAllocations(
-        [&] {
-            list = zu_DbFldList_create(W("a"), W("1"), W("b"), W("2"), none);
-            zu_DbFldList_destroy(list);
-        },
-        isNull);
     const List source = listOf({W("A"), W("B")});
-    sweepAllocations(
-        [&] {
-            list = zu_DbFldList_copy(source.get());
-            zu_DbFldList_destroy(list);
-        },
-        isNull);
-    sweepAllocations(
-        [&] {
-            list = zu_DbFldList_fromTemplate(path.c_str());
-            zu_DbFldList_destroy(list);
-        },
-        isNull);
+    sweepMaking([] { return zu_DbFldList_create(W("a"), W("1"), W("b"), W("2"), none); }, zu_DbFldList_destroy);
+    sweepMaking([&] { return zu_DbFldList_copy(source.get()); }, zu_DbFldList_destroy);
+    sweepMaking([&] { return zu_DbFldList_fromTemplate(path.c_str()); }, zu_DbFldList_destroy);
     zu_DbFldList_start(source.get());
     const Wide before = str(zu_DbFldList_getCurrStr(source.get()));
     sweepAllocations(

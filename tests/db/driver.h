@@ -1,7 +1,8 @@
 // The test's hold on the recording driver, and the tables that it reads.
 #pragma once
 
-#include "support/sandbox.h"
+#include "support/trace.h"
+#include "zu_Db.h"
 
 #include <functional>
 #include <memory>
@@ -81,11 +82,51 @@ private:
 // The database behind the data source of ".dbf" tables.
 std::filesystem::path sharedDatabase();
 
-// What an action prints on standard output, with \n for the line ends.
-std::string printedBy(const std::function<void()>& action);
+#if !defined(_WIN32)
+// While it lives, the driver manager itself fails to allocate handles of this type (1 environment, 2 connection,
+// 3 statement), which no driver sees.
+class FailingAllocation
+{
+public:
+    explicit FailingAllocation(int type);
+    ~FailingAllocation();
+    FailingAllocation(const FailingAllocation&) = delete;
+    FailingAllocation& operator=(const FailingAllocation&) = delete;
+};
+#endif
 
 // The statements that make a table with rows.
 std::vector<std::string> createTable(const std::string& name, const std::string& columns,
                                      const std::vector<std::string>& rows);
+
+struct ListDeleter
+{
+    void operator()(DbFldList* list) const { zu_DbFldList_destroy(list); }
+};
+using List = std::unique_ptr<DbFldList, ListDeleter>;
+
+constexpr const zu_wchar* none = nullptr; // the end of a list of arguments
+
+// A fresh directory with a recording driver, and a table of the test's own.
+class TableTest : public testing::Test
+{
+public:
+    // Opens a fresh table "t" of these columns and rows.
+    const Table& table(const std::string& columns, const std::vector<std::string>& rows = {})
+    {
+        runSql(file, createTable("t", columns, rows));
+        opened = std::make_unique<Table>(sandbox.path(W("t")));
+        driver.forget();
+        return *opened;
+    }
+    std::vector<std::string> content() { return querySql(file, "SELECT * FROM t ORDER BY 1"); }
+    int32_t mode() const { return zu_DbRef_sel(*opened)->mode; }
+    int32_t recordNumber() const { return zu_DbRef_sel(*opened)->recordNumber; }
+
+    Sandbox sandbox;
+    Driver driver;
+    std::filesystem::path file = sandbox.native(W("t.db3"));
+    std::unique_ptr<Table> opened;
+};
 
 } // namespace zutest

@@ -41,25 +41,19 @@ TEST(File, copyOntoItselfLeavesTheFileAlone)
     const Wide file = sandbox.path(W("file"));
     std::error_code failed;
     std::filesystem::create_hard_link(sandbox.native(W("file")), sandbox.native(W("link")), failed);
-    const struct
-    {
-        const char* what;
-        Wide other;
-    } rows[] = {
+    const std::tuple<const char*, Wide> rows[] = {
         {"the same name", file},
         {"another case", sandbox.path(W("FILE"))},
         {"another way", sandbox.path(W("none\\..\\file"))},
         {"another link", sandbox.path(W("link"))},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(zu_File_copy(file.c_str(), row.other.c_str()), 1) << row.what;
-        EXPECT_EQ(zu_File_append(row.other.c_str(), file.c_str()), 1) << row.what;
-        EXPECT_EQ(zu_File_encrypt(row.other.c_str(), file.c_str()), 0) << row.what;
-        EXPECT_EQ(sandbox.read(W("file")), "content") << row.what;
+    for (const auto& [what, other] : rows) {
+        EXPECT_EQ(zu_File_copy(file.c_str(), other.c_str()), 1) << what;
+        EXPECT_EQ(zu_File_append(other.c_str(), file.c_str()), 1) << what;
+        EXPECT_EQ(zu_File_encrypt(other.c_str(), file.c_str()), 0) << what;
+        EXPECT_EQ(sandbox.read(W("file")), "content") << what;
     }
     EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"file", "link"}));
-    EXPECT_EQ(zu_File_copy(nullptr, file.c_str()), 1);
-    EXPECT_EQ(zu_File_copy(file.c_str(), nullptr), 1);
 }
 
 TEST(File, appendTakesTheDestinationFirst)
@@ -71,9 +65,6 @@ TEST(File, appendTakesTheDestinationFirst)
     EXPECT_EQ(zu_File_append(to.c_str(), from.c_str()), 0);
     EXPECT_EQ(zu_File_append(to.c_str(), from.c_str()), 0);
     EXPECT_EQ(sandbox.read(W("to")), "second\r\nsecond\r\n");
-    EXPECT_EQ(zu_File_append(from.c_str(), sandbox.path(W("none")).c_str()), 1);
-    EXPECT_EQ(sandbox.read(W("from")), "second\r\n");
-    EXPECT_EQ(zu_File_append(nullptr, from.c_str()), 1);
     EXPECT_EQ(zu_File_append(sandbox.path(W("new")).c_str(), nullptr), 1);
     EXPECT_FALSE(sandbox.exists(W("new"))) << "the source is opened first";
 }
@@ -101,9 +92,6 @@ TEST(File, copyRestStartsAtThePositionsOfTheStreams)
     StreamOf from(sandbox, "from", "rb");
     StreamOf same(sandbox, "from", "ab");
     EXPECT_EQ(zu_File_copyRest(same, from), 1);
-    EXPECT_EQ(zu_File_copyRest(nullptr, from), 1);
-    EXPECT_EQ(zu_File_copyRest(same, nullptr), 1);
-    EXPECT_EQ(zu_File_length(from), 200'000);
 }
 
 // A device that is always full stands for every disk that is.
@@ -128,18 +116,6 @@ TEST(File, whatCannotBeWrittenIsReported)
         EXPECT_EQ(zu_File_mend(full.c_str()), 0) << size;
         EXPECT_EQ(sandbox.read(W("full.1")).size(), size) << "the part is still there";
     }
-}
-
-// Their length is not what the system says, and none of its own ways of copying takes them.
-TEST(File, filesOfTheSystemCanBeCopied)
-{
-    if (onWindows)
-        GTEST_SKIP() << "no such files on this system";
-    Sandbox sandbox;
-    EXPECT_EQ(zu_File_copy(W("C:\\proc\\self\\cmdline"), sandbox.path(W("copy")).c_str()), 0);
-    EXPECT_NE(sandbox.read(W("copy")), "");
-    EXPECT_EQ(zu_File_append(sandbox.path(W("copy")).c_str(), W("C:\\proc\\version")), 0);
-    EXPECT_NE(sandbox.read(W("copy")).find("Linux"), std::string::npos);
 }
 
 } // namespace

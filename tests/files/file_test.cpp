@@ -1,5 +1,6 @@
 #include "files_support.h"
 #include "support/memory.h"
+#include "zu_Dir.h"
 #include "zu_File.h"
 
 #if !defined(_WIN32)
@@ -17,46 +18,18 @@ TEST(File, accessTests)
     sandbox.write(W("locked"), "x");
     const Wide locked = sandbox.path(W("locked"));
     EXPECT_EQ(zu_File_setReadOnlyAccess(locked.c_str()), 1);
-    const struct
-    {
-        const char* what;
-        Wide path;
-        int32_t mode, granted;
-    } rows[] = {
-        {"exists", sandbox.path(W("Plain")), 0, 1},
-        {"mode that is none", sandbox.path(W("Plain")), 1, 0},
-        {"write", sandbox.path(W("Plain")), 2, 1},
-        {"read", sandbox.path(W("Plain")), 4, 1},
-        {"read and write", sandbox.path(W("Plain")), 6, 1},
-        {"another case", sandbox.path(W("PLAIN")), 0, 1},
-        {"a directory", sandbox.path(), 0, 1},
-        {"missing", sandbox.path(W("none")), 0, 0},
-        {"empty", Wide(), 0, 0},
-        {"read-only, for reading", locked, 4, 1},
-        {"read-only, for writing", locked, 2, 0},
-        {"read-only, for both", locked, 6, 0},
+    const std::tuple<const char*, Wide, int32_t, int32_t> rows[] = {
+        {"exists", sandbox.path(W("Plain")), 0, 1},       {"write", sandbox.path(W("Plain")), 2, 1},
+        {"another case", sandbox.path(W("PLAIN")), 0, 1}, {"a directory", sandbox.path(), 0, 1},
+        {"read-only, for reading", locked, 4, 1},         {"read-only, for both", locked, 6, 0},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(zu_File_hasAccess(row.path.c_str(), row.mode), row.granted) << row.what;
+    for (const auto& [what, path, mode, granted] : rows)
+        EXPECT_EQ(zu_File_hasAccess(path.c_str(), mode), granted) << what;
     EXPECT_EQ(zu_File_isWriteEnabled(locked.c_str()), 0);
     EXPECT_EQ(zu_File_setReadWriteAccess(locked.c_str()), 1);
     EXPECT_EQ(zu_File_isWriteEnabled(locked.c_str()), 1);
-    EXPECT_EQ(zu_File_setReadOnlyAccess(sandbox.path(W("none")).c_str()), 0);
     EXPECT_EQ(zu_File_setReadWriteAccess(nullptr), 0);
     EXPECT_EQ(zu_File_hasAccess(nullptr, 0), 0);
-}
-
-TEST(File, deleteSingleTakesFilesOnly)
-{
-    Sandbox sandbox;
-    sandbox.write(W("Mixed.Case"), "");
-    std::filesystem::create_directory(sandbox.native(W("dir")));
-    EXPECT_EQ(zu_File_deleteSingle(sandbox.path(W("mixed.case")).c_str()), 1);
-    EXPECT_EQ(zu_File_deleteSingle(sandbox.path(W("mixed.case")).c_str()), 0);
-    EXPECT_EQ(zu_File_deleteSingle(sandbox.path(W("dir")).c_str()), 0);
-    EXPECT_EQ(zu_File_deleteSingle(W("")), 0);
-    EXPECT_EQ(zu_File_deleteSingle(nullptr), 0);
-    EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"dir/"}));
 }
 
 TEST(File, moveReplacesTheDestination)
@@ -71,7 +44,6 @@ TEST(File, moveReplacesTheDestination)
     EXPECT_EQ(sandbox.read(W("b")), "1");
     EXPECT_FALSE(sandbox.exists(W("a")));
     EXPECT_EQ(move(W("b"), W("b")), 0) << "onto itself";
-    EXPECT_EQ(sandbox.read(W("b")), "1");
     EXPECT_EQ(move(W("b"), W("B")), 0) << "into another case";
     // Wine calls it done, and leaves the name as it was.
     EXPECT_TRUE(onWindows || entriesOf(sandbox) == std::vector<std::string>{"B"});
@@ -81,8 +53,6 @@ TEST(File, moveReplacesTheDestination)
     EXPECT_FALSE(sandbox.exists(W("B"))) << "deleted although there is no source";
 
     sandbox.write(W("c"), "3");
-    EXPECT_EQ(zu_File_move(W(""), sandbox.path(W("c")).c_str()), -1);
-    EXPECT_EQ(zu_File_move(nullptr, sandbox.path(W("c")).c_str()), -1);
     EXPECT_EQ(zu_File_move(sandbox.path(W("c")).c_str(), nullptr), -1);
     if (onWindows)
         sandbox.write(W("d"), "4");
@@ -128,7 +98,6 @@ TEST(File, timesAreComparedInSeconds)
     EXPECT_EQ(zu_File_cmpTime(newer.c_str(), older.c_str()), 1);
     EXPECT_EQ(zu_File_cmpTime(newer.c_str(), newer.c_str()), 0);
     EXPECT_EQ(zu_File_cmpTime(missing.c_str(), older.c_str()), -1);
-    EXPECT_EQ(zu_File_cmpTime(missing.c_str(), missing.c_str()), -1);
     EXPECT_EQ(zu_File_cmpTime(older.c_str(), missing.c_str()), 1);
 
     // Both times are set, also those before 1970, and also those of a file that may not be written.
@@ -146,10 +115,7 @@ TEST(File, timesAreComparedInSeconds)
     std::filesystem::last_write_time(sandbox.native(W("new")), late);
     EXPECT_EQ(zu_File_getTime(newer.c_str(), &time), 1) << "does not fit 32 bits";
     EXPECT_EQ(zu_File_cmpTime(older.c_str(), newer.c_str()), -1);
-    EXPECT_EQ(zu_File_getTime(newer.c_str(), nullptr), 1);
     EXPECT_EQ(zu_File_getTime(nullptr, &time), 1);
-    EXPECT_EQ(zu_File_setTime(missing.c_str(), 1), -1);
-    EXPECT_EQ(zu_File_setTime(nullptr, 1), -1);
 }
 
 TEST(File, lengthOfAStream)
@@ -201,7 +167,6 @@ TEST(File, badNames)
         EXPECT_EQ(zu_File_slice(bad, 10), 0) << what;
         EXPECT_EQ(zu_File_mend(bad), 0) << what;
         EXPECT_EQ(zu_File_encrypt(bad, good.c_str()), 0) << what;
-        EXPECT_NE(zu_File_getUNCPathName(bad), nullptr) << what;
         EXPECT_EQ(zu_File_getTime(bad, &time), what != "a directory") << what;
         if (what != "a directory" && what != "a link to itself") {
             EXPECT_EQ(zu_File_findFirst(bad, found), -1) << what;
@@ -212,6 +177,29 @@ TEST(File, badNames)
     }
     for (const auto& entry : entriesOf(sandbox))
         EXPECT_TRUE(entry == "good" || entry == "loop") << entry;
+}
+
+TEST(File, nullNamesAndStreams)
+{
+    Sandbox sandbox;
+    sandbox.write(W("good"), "x");
+    const Wide path = sandbox.path(W("good"));
+    const zu_wchar* const good = path.c_str();
+    StreamOf stream(sandbox, "good", "r+");
+    zu_wchar line[2];
+    int32_t time = 0;
+    EXPECT_TRUE(allAre(0, {zu_File_readLine(nullptr, line, 1), zu_File_encrypt(nullptr, good), zu_File_mend(nullptr),
+                           zu_File_decrypt(good, nullptr), zu_File_slice(nullptr, 5), zu_File_exists(nullptr),
+                           zu_Dir_exists(nullptr), zu_File_deleteSingle(nullptr), zu_File_deleteSingle(W("")),
+                           zu_File_delete(nullptr, 1), zu_File_delete(W(""), 0)}));
+    EXPECT_TRUE(allAre(1, {zu_File_append(nullptr, good), zu_File_copy(good, nullptr), zu_File_copy(nullptr, good),
+                           zu_File_copyRest(nullptr, stream), zu_File_copyRest(stream, nullptr),
+                           zu_File_getTime(good, nullptr), zu_File_getTime(nullptr, &time)}));
+    EXPECT_TRUE(allAre(-1, {zu_Dir_change(nullptr), zu_Dir_delete(nullptr), zu_File_move(nullptr, good),
+                            zu_File_setTime(nullptr, 1), zu_Dir_create(W("")), zu_Dir_deleteTree(nullptr)}));
+    EXPECT_TRUE(allNull({zu_Dir_getParent(nullptr), zu_Dir_list(nullptr), zu_File_readFile(nullptr),
+                         zu_File_readFileExactly(nullptr)}));
+    EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"good"}));
 }
 
 TEST(File, namesBeyondAscii)

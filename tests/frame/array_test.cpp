@@ -1,7 +1,6 @@
 #include "support/memory.h"
-#include "support/trace.h"
+#include "support/wide.h"
 #include "zu_Array.h"
-#include "zu_Diag.h"
 
 #include <cstring>
 
@@ -80,7 +79,6 @@ TEST(Array, badInput)
     EXPECT_EQ(zu_Array_getNth(nullptr, 0), nullptr);
     EXPECT_EQ(zu_Array_setNth(nullptr, 0, &value, nullptr), 0);
     EXPECT_EQ(zu_Array_swap(nullptr, 0, 0), 0);
-    EXPECT_EQ(zu_Array_search(nullptr, &value, isEqual), 0u);
 
     sweepAllocations(
         [&] {
@@ -91,18 +89,6 @@ TEST(Array, badInput)
             }
         },
         [] {});
-}
-
-TEST(Array, tracesUnderTheStatedNames)
-{
-    const int64_t value = 1;
-    Array* const array = zu_Array_create(1, sizeof value, &value);
-    TraceCapture trace(ZU_DIAG_ARRAY);
-    zu_Array_setNth(array, 0, &value, nullptr);
-    EXPECT_EQ(trace.lines(),
-              (std::vector<std::string>{"array Entering zu_Array_modNth.", "array Entering zu_Array_getAddress.",
-                                        "array Exiting zu_Array_search.", "array Exiting zu_Array_modNth."}));
-    zu_Array_destroy(array, nullptr);
 }
 
 } // namespace

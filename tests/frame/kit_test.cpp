@@ -70,11 +70,7 @@ TEST(Format, agreesWithTheRuntime)
 
 TEST(Format, textsCharactersAndLengthMarks)
 {
-    const struct
-    {
-        WideLiteral after;
-        zu::WideString result;
-    } rows[] = {
+    const std::tuple<WideLiteral, zu::WideString> rows[] = {
         {W("a = b"), zu::formatted(W("%s = %s"), W("a"), W("b"))},
         {W("ab   |   ab|abc"), zu::formatted(W("%-5s|%5s|%.3s"), W("ab"), W("ab"), W("abcdef"))},
         {W("x% y"), zu::formatted(W("%c%% %c"), W('x'), W('y'))},
@@ -83,8 +79,8 @@ TEST(Format, textsCharactersAndLengthMarks)
         {W("(null)"), zu::formatted(W("%s"), static_cast<const zu_wchar*>(nullptr))},
         {W("inf -inf nan"), zu::formatted(W("%f %f %f"), INFINITY, -INFINITY, std::abs(NAN))},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(Wide(row.result), Wide(row.after));
+    for (const auto& [after, result] : rows)
+        EXPECT_EQ(Wide(result), Wide(after));
 }
 
 TEST(Format, aPatternFromOutsideReadsNothingThatIsNotThere)
@@ -119,14 +115,11 @@ TEST(Text, numbersAgreeWithTheRuntime)
             std::clamp<long long>(std::strtoll(number.c_str(), nullptr, 10), INT32_MIN, INT32_MAX);
         ASSERT_EQ(text::toInt(widen(number)), integer) << number;
     }
-    const struct
-    {
-        const char* text;
-        double value;
-    } rows[] = {{"1e400", HUGE_VAL}, {"-1e400", -HUGE_VAL},       {"1e-400", 0.0},        {"0.0001e-330", 0.0},
-                {"", 0.0},           {"1e99999999999", HUGE_VAL}, {"0e99999999999", 0.0}, {"inf", HUGE_VAL}};
-    for (const auto& row : rows)
-        EXPECT_EQ(text::toDouble(widen(row.text)), row.value) << row.text;
+    const std::tuple<const char*, double> rows[] = {
+        {"1e400", HUGE_VAL}, {"-1e400", -HUGE_VAL},       {"1e-400", 0.0},        {"0.0001e-330", 0.0},
+        {"", 0.0},           {"1e99999999999", HUGE_VAL}, {"0e99999999999", 0.0}, {"inf", HUGE_VAL}};
+    for (const auto& [rowText, value] : rows)
+        EXPECT_EQ(text::toDouble(widen(rowText)), value) << rowText;
     EXPECT_EQ(text::toInt(Wide(10'000, W('9'))), INT32_MAX);
     EXPECT_EQ(text::toDouble(Wide(10'000, W('9'))), HUGE_VAL);
 }
@@ -167,12 +160,7 @@ TEST(Utf8, everyCharacterAndWhatIsNone)
         EXPECT_EQ(bytes.size(), codePoint < 0x80 ? 1u : codePoint < 0x800 ? 2u : codePoint < 0x10000 ? 3u : 4u);
         ASSERT_EQ(Wide(zu::utf8::decode(bytes)), text) << codePoint;
     }
-    const struct
-    {
-        const char* what;
-        std::string bytes;
-        WideLiteral text;
-    } rows[] = {
+    const std::tuple<const char*, std::string, WideLiteral> rows[] = {
         {"overlong", "\xC0\x80", W("\xDCC0\xDC80")},
         {"overlong, three bytes", "\xE0\x80\x80", W("\xDCE0\xDC80\xDC80")},
         {"encoded surrogate", "\xED\xA0\x80", W("\xDCED\xDCA0\xDC80")},
@@ -180,8 +168,8 @@ TEST(Utf8, everyCharacterAndWhatIsNone)
         {"cut short", "a\xE2\x82", W("a\xDCE2\xDC82")},
         {"stray continuation", "\x80z", W("\xDC80z")},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(Wide(zu::utf8::decode(row.bytes)), Wide(row.text)) << row.what;
+    for (const auto& [what, rowBytes, rowText] : rows)
+        EXPECT_EQ(Wide(zu::utf8::decode(rowBytes)), Wide(rowText)) << what;
     EXPECT_EQ(narrow(W("\xD801x\xDC01")), "\xED\xA0\x81x\xED\xB0\x81") << "other lone surrogates: three bytes";
 }
 

@@ -146,31 +146,49 @@ inline std::vector<std::string> traced(const std::string& module, const std::str
     return lines;
 }
 
-// Takes results that must be 0, each with the name that the lines of its call must carry; a call without a name must
-// have written none. The lines of what it calls are passed over.
-class Refusals
-{
-public:
-    Refusals(std::uint32_t mask, const char* moduleName) : trace(mask), module(moduleName) {}
-    void operator()(const std::string& name, int32_t result)
-    {
-        EXPECT_EQ(result, 0) << name << ", row " << ++row;
-        std::vector<std::string> lines = trace.lines();
-        if (lines.size() > 2)
-            lines.erase(lines.begin() + 1, lines.end() - 1);
-        EXPECT_EQ(lines, name.empty() ? std::vector<std::string>() : traced(module, name)) << "row " << row;
-    }
-
-private:
-    TraceCapture trace;
-    std::string module;
-    int row = 0;
-};
-
 inline std::vector<std::string> operator+(std::vector<std::string> a, const std::vector<std::string>& b)
 {
     a.insert(a.end(), b.begin(), b.end());
     return a;
 }
+
+// A call that must give 0, with the name that its lines must carry; REFUSAL_AS where that is another one, or none.
+#define REFUSAL(operation, ...)                                                                                        \
+    {                                                                                                                  \
+#        operation, operation(__VA_ARGS__)                                                                             \
+    }
+#define REFUSAL_AS(name, ...)                                                                                          \
+    {                                                                                                                  \
+        name, __VA_ARGS__                                                                                              \
+    }
+
+// Takes such calls since it was made; the lines of what they call are passed over.
+class Refusals
+{
+public:
+    Refusals(std::uint32_t mask, const char* moduleName) : trace(mask), module(moduleName) {}
+    void operator()(const std::vector<std::pair<std::string, int32_t>>& calls)
+    {
+        std::vector<std::string> lines, wanted;
+        for (const auto& [name, result] : calls) {
+            EXPECT_EQ(result, 0) << name;
+            if (!name.empty())
+                wanted = std::move(wanted) + traced(module, name);
+        }
+        int depth = 0;
+        for (const std::string& line : trace.lines()) {
+            const bool isEntry = line.find(" Entering ") != std::string::npos;
+            depth -= !isEntry;
+            if (depth == 0)
+                lines.push_back(line);
+            depth += isEntry;
+        }
+        EXPECT_EQ(lines, wanted);
+    }
+
+private:
+    TraceCapture trace;
+    std::string module;
+};
 
 } // namespace zutest

@@ -80,15 +80,11 @@ TEST(Ntuple, arithmetic)
 TEST(Ntuple, print)
 {
     EXPECT_EQ(printed(ntupleOf({1, 2}).get()), "1.000000, 2.000000\n");
-    EXPECT_EQ(printed(ntupleOf({-0.0000004}).get()), "-0.000000\n");
     EXPECT_EQ(printed(ntupleOf({}).get()), "\n");
     const Ntuple unreadable = {3, nullptr};
     EXPECT_EQ(printed(&unreadable), " ,  ,   \n");
     EXPECT_EQ(printed(ntupleOf({1.7976931348623157e308}).get()).size(), 309u + 7 + 1);
-    testing::internal::CaptureStdout();
-    EXPECT_EQ(zu_Ntuple_print(ntupleOf({0.5}).get(), nullptr), 1);
-    std::fflush(stdout);
-    EXPECT_EQ(testing::internal::GetCapturedStdout().substr(0, 8), "0.500000");
+    EXPECT_EQ(printedBy([] { zu_Ntuple_print(ntupleOf({0.5}).get(), nullptr); }), "0.500000\n");
 }
 
 TEST(Ntuple, withoutMemory)
@@ -107,8 +103,6 @@ TEST(Ntuple, withoutMemory)
                 EXPECT_EQ(ntuple->count, 2);
                 EXPECT_EQ(zu_Ntuple_setElement(ntuple, 0, 1), whole);
                 EXPECT_EQ(zu_Ntuple_getElement(&value, ntuple, 0), whole);
-                EXPECT_EQ(zu_Ntuple_scale(ntuple, 1), whole);
-                EXPECT_EQ(zu_Ntuple_copy(ntuple, ntuple), whole);
                 EXPECT_EQ(zu_Ntuple_destroy(ntuple), 1);
             }
         },
@@ -127,19 +121,15 @@ TEST(Ntuple, badInputIsRefusedAndTracedUnderTheStatedNames)
     EXPECT_EQ(zu_Ntuple_dotProduct(&number, none.get(), none.get()), 1);
     EXPECT_EQ(number, 0);
     Refusals refused(ZU_DIAG_NTUPLE, "ntuple");
-    refused("zu_Ntuple_create", zu_Ntuple_create(INT32_MIN) != nullptr);
-    refused("zu_Ntuple_destroy", zu_Ntuple_destroy(nullptr));
-    refused("zu_Ntuple_setElement", zu_Ntuple_setElement(nullptr, 0, 1));
-    refused("zu_Ntuple_getElement", zu_Ntuple_getElement(&number, nullptr, 0));
-    refused("zu_Ntuple_getElement", zu_Ntuple_getElement(nullptr, a.get(), 0));
-    refused("zu_Ntuple_fromVector", zu_Ntuple_fromVector(nullptr) != nullptr);
-    refused("", zu_Ntuple_print(nullptr, stdout));
-    refused("zu_Ntuple_scale", zu_Ntuple_scale(nullptr, 2));
-    refused("zu_Ntuple_dotProduct", zu_Ntuple_dotProduct(nullptr, a.get(), a.get()));
-    refused("zu_Ntuple_dotProduct", zu_Ntuple_dotProduct(&number, a.get(), nullptr));
-    refused("zu_Ntuple_copy", zu_Ntuple_copy(nullptr, a.get()));
-    refused("", zu_Ntuple_add(a.get(), nullptr, a.get()));
-    refused("", zu_Ntuple_subtract(a.get(), a.get(), nullptr));
+    refused({REFUSAL_AS("zu_Ntuple_create", zu_Ntuple_create(INT32_MIN) != nullptr),
+             REFUSAL(zu_Ntuple_destroy, nullptr), REFUSAL(zu_Ntuple_setElement, nullptr, 0, 1),
+             REFUSAL(zu_Ntuple_getElement, &number, nullptr, 0), REFUSAL(zu_Ntuple_getElement, nullptr, a.get(), 0),
+             REFUSAL_AS("zu_Ntuple_fromVector", zu_Ntuple_fromVector(nullptr) != nullptr),
+             REFUSAL_AS("", zu_Ntuple_print(nullptr, stdout)), REFUSAL(zu_Ntuple_scale, nullptr, 2),
+             REFUSAL(zu_Ntuple_dotProduct, nullptr, a.get(), a.get()),
+             REFUSAL(zu_Ntuple_dotProduct, &number, a.get(), nullptr), REFUSAL(zu_Ntuple_copy, nullptr, a.get()),
+             REFUSAL_AS("", zu_Ntuple_add(a.get(), nullptr, a.get())),
+             REFUSAL_AS("", zu_Ntuple_subtract(a.get(), a.get(), nullptr))});
     EXPECT_EQ(number, 0);
 }
 

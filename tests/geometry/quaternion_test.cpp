@@ -105,13 +105,7 @@ TEST(Quaternion, fromVectors)
     const double almostHalf = 3.1415926536;
     const double w = std::cos(almostHalf / 2), s = std::sin(almostHalf / 2);
     ASSERT_NE(w, std::cos(pi / 2));
-    const struct
-    {
-        const char* what;
-        Vector from, to;
-        int32_t result;
-        Parts parts;
-    } rows[] = {
+    const std::tuple<const char*, Vector, Vector, int32_t, Parts> rows[] = {
         {"opposite along X", {1, 0, 0}, {-1, 0, 0}, 1, {0, 0, s, w}},
         {"opposite along Z", {0, 0, 1}, {0, 0, -1}, 1, {s, 0, 0, w}},
         {"opposite, oblique", {3, 0, 4}, {-3, 0, -4}, 1, {-0.8 * s, 0, 0.6 * s, w}},
@@ -126,10 +120,10 @@ TEST(Quaternion, fromVectors)
         {"from too short", {0, 0, 0}, {1, 0, 0}, 0, {9, 9, 9, 9}},
         {"to too short", {0, 0, 0}, {0, 0, 0}, 0, {9, 9, 9, 9}},
     };
-    for (const auto& row : rows) {
+    for (const auto& [what, from, to, result, parts] : rows) {
         Quaternion q = {9, 9, 9, 9};
-        EXPECT_EQ(zu_Quaternion_fromVectors(&q, &row.from, &row.to), row.result) << row.what;
-        EXPECT_TRUE(isNear(q, row.parts, 1e-14)) << row.what;
+        EXPECT_EQ(zu_Quaternion_fromVectors(&q, &from, &to), result) << what;
+        EXPECT_TRUE(isNear(q, parts, 1e-14)) << what;
     }
 }
 
@@ -140,22 +134,21 @@ TEST(Quaternion, nullIsRefusedAndNothingTraces)
     Vector out = {};
     double number = 7;
     Refusals refused(ZU_DIAG_VECTOR | ZU_DIAG_POINT | ZU_DIAG_MATRIX, "vector");
-    refused("", zu_Quaternion_set(nullptr, 1, 2, 3, 4));
-    refused("", zu_Quaternion_setX(nullptr, 1) + zu_Quaternion_setY(nullptr, 1));
-    refused("", zu_Quaternion_setZ(nullptr, 1) + zu_Quaternion_setScalar(nullptr, 1));
-    refused("", zu_Quaternion_setVector(&q, nullptr));
-    refused("", zu_Quaternion_getX(nullptr, &q) + zu_Quaternion_getY(&number, nullptr));
-    refused("", zu_Quaternion_getZ(nullptr, &q) + zu_Quaternion_getScalar(&number, nullptr));
-    refused("zu_Vector_set", zu_Quaternion_getVector(nullptr, &q));
-    refused("", zu_Quaternion_getVector(&out, nullptr));
-    refused("", zu_Quaternion_getConjugate(&q, nullptr));
-    refused("", zu_Quaternion_getInverse(nullptr, &q));
-    refused("", zu_Quaternion_magnitude(&number, nullptr));
-    refused("", zu_Quaternion_normalize(nullptr, &q));
-    refused("", zu_Quaternion_multiply(&q, &q, nullptr));
-    refused("", zu_Quaternion_fromRotAxisAndAngle(&q, nullptr, 1));
-    refused("", zu_Quaternion_fromVectors(&q, &v, nullptr));
-    refused("", zu_Quaternion_fromVectors(nullptr, &v, &v));
+    refused(
+        {REFUSAL_AS("", zu_Quaternion_set(nullptr, 1, 2, 3, 4)),
+         REFUSAL_AS("", zu_Quaternion_setX(nullptr, 1) + zu_Quaternion_setY(nullptr, 1)),
+         REFUSAL_AS("", zu_Quaternion_setZ(nullptr, 1) + zu_Quaternion_setScalar(nullptr, 1)),
+         REFUSAL_AS("", zu_Quaternion_setVector(&q, nullptr)),
+         REFUSAL_AS("", zu_Quaternion_getX(nullptr, &q) + zu_Quaternion_getY(&number, nullptr)),
+         REFUSAL_AS("", zu_Quaternion_getZ(nullptr, &q) + zu_Quaternion_getScalar(&number, nullptr)),
+         REFUSAL_AS("zu_Vector_set", zu_Quaternion_getVector(nullptr, &q)),
+         REFUSAL_AS("", zu_Quaternion_getVector(&out, nullptr)),
+         REFUSAL_AS("", zu_Quaternion_getConjugate(&q, nullptr)), REFUSAL_AS("", zu_Quaternion_getInverse(nullptr, &q)),
+         REFUSAL_AS("", zu_Quaternion_magnitude(&number, nullptr)),
+         REFUSAL_AS("", zu_Quaternion_normalize(nullptr, &q)), REFUSAL_AS("", zu_Quaternion_multiply(&q, &q, nullptr)),
+         REFUSAL_AS("", zu_Quaternion_fromRotAxisAndAngle(&q, nullptr, 1)),
+         REFUSAL_AS("", zu_Quaternion_fromVectors(&q, &v, nullptr)),
+         REFUSAL_AS("", zu_Quaternion_fromVectors(nullptr, &v, &v))});
     EXPECT_EQ(partsOf(q), (Parts{1, 2, 3, 4}));
     EXPECT_EQ(number, 7);
 }

@@ -27,26 +27,19 @@ TEST(BuiltInHost, findsTheConfigurationDirectory)
 #endif
     const std::string home = utf8(sandbox.native(W("home")));
     const std::optional<std::string> none;
-    const struct
-    {
-        const char* what;
-        std::optional<std::string> own;
-        std::optional<std::string> users;
-        Wide directory;
-    } rows[] = {
+    const std::tuple<const char*, std::optional<std::string>, std::optional<std::string>, Wide> rows[] = {
         {"its own variable", utf8(sandbox.native(W("cfg"))), home, sandbox.path(W("cfg"))},
-        {"with separators at the end", utf8(sandbox.native(W("cfg"))) + "//", home, sandbox.path(W("cfg"))},
         {"relative", "no\\such", home, sandbox.path(W("no\\such"))},
         {"of the user", none, home, sandbox.path(W("home\\zu"))},
         {"empty counts as not set", "", home, sandbox.path(W("home\\zu"))},
     };
     const auto application = host::makeBuiltInApplication();
-    for (const auto& row : rows) {
-        sandbox.setEnvironment("ZU_CFG_DIR", row.own);
-        sandbox.setEnvironment(variable, row.users);
+    for (const auto& [what, own, users, rowDirectory] : rows) {
+        sandbox.setEnvironment("ZU_CFG_DIR", own);
+        sandbox.setEnvironment(variable, users);
         BSTR directory = nullptr;
         EXPECT_EQ(application->get_ConfigurationDirectory(&directory), S_OK);
-        EXPECT_EQ(takeBstr(directory), row.directory) << row.what;
+        EXPECT_EQ(takeBstr(directory), rowDirectory) << what;
     }
     sandbox.setEnvironment("ZU_CFG_DIR", none);
     BSTR directory = nullptr;
@@ -62,21 +55,18 @@ TEST(BuiltInHost, findsTheConfigurationDirectory)
     sandbox.setEnvironment(variable, none);
     EXPECT_EQ(application->get_ConfigurationDirectory(&directory), S_OK);
     EXPECT_EQ(takeBstr(directory), W(""));
-    EXPECT_EQ(application->get_ConfigurationDirectory(nullptr), E_POINTER);
 }
 
 TEST(BuiltInHost, keepsTheApplicationGroup)
 {
     const auto application = host::makeBuiltInApplication();
     BSTR text = nullptr;
-    EXPECT_EQ(application->get_ApplicationGroup(&text), S_OK);
-    EXPECT_EQ(takeBstr(text), W(""));
-    EXPECT_EQ(application->put_ApplicationGroup(Bstr(W("Piping \u0416")).get()), S_OK);
-    EXPECT_EQ(application->get_ApplicationGroup(&text), S_OK);
-    EXPECT_EQ(takeBstr(text), W("Piping \u0416"));
-    EXPECT_EQ(application->put_ApplicationGroup(nullptr), S_OK);
-    EXPECT_EQ(application->get_ApplicationGroup(&text), S_OK);
-    EXPECT_EQ(takeBstr(text), W(""));
+    for (const WideLiteral group : {W(""), W("Piping \u0416"), W("")}) {
+        EXPECT_EQ(application->get_ApplicationGroup(&text), S_OK);
+        EXPECT_EQ(takeBstr(text), group);
+        const Bstr next(W("Piping \u0416"));
+        EXPECT_EQ(application->put_ApplicationGroup(*group == 0 ? next.get() : nullptr), S_OK);
+    }
     EXPECT_EQ(application->get_BaseSectionName(&text), S_OK);
     EXPECT_EQ(takeBstr(text), W("GENERAL"));
 }
@@ -87,7 +77,8 @@ TEST(BuiltInHost, answersByTheRulesOfCom)
     HostTranslator* translator = reinterpret_cast<HostTranslator*>(1);
     EXPECT_EQ(application->get_Translator(&translator), S_OK);
     EXPECT_EQ(translator, nullptr);
-    EXPECT_EQ(application->get_IniCache(nullptr), E_POINTER);
+    EXPECT_TRUE(allAre(E_POINTER, {application->get_IniCache(nullptr), application->get_ConfigurationDirectory(nullptr),
+                                   host::makeBuiltInFileService()->FileExists(nullptr, nullptr)}));
 
     ComPtr<HostFileService> service;
     ASSERT_EQ(application->get_FileService(service.out()), S_OK);
@@ -99,9 +90,6 @@ TEST(BuiltInHost, answersByTheRulesOfCom)
         EXPECT_EQ(object, service.get());
         service->Release();
     }
-    UINT count = 9;
-    EXPECT_EQ(service->GetTypeInfoCount(&count), S_OK);
-    EXPECT_EQ(count, 0u);
 }
 
 TEST(BuiltInHost, knowsTheFilesOfTheSystem)
@@ -112,21 +100,14 @@ TEST(BuiltInHost, knowsTheFilesOfTheSystem)
     const Bstr file(sandbox.path(W("file")));
     const Bstr folder(sandbox.path());
     const Bstr missing(sandbox.path(W("missing")));
-    VARIANT_BOOL answer = 1;
-    const auto isFile = [&](BSTR path) {
-        return service->FileExists(path, &answer) == S_OK && answer == VARIANT_TRUE;
-    };
-    const auto isFolder = [&](BSTR path) {
-        return service->FolderExists(path, &answer) == S_OK && answer == VARIANT_TRUE;
-    };
-    EXPECT_TRUE(isFile(file.get()));
-    EXPECT_FALSE(isFile(folder.get()));
-    EXPECT_FALSE(isFile(missing.get()));
-    EXPECT_FALSE(isFile(nullptr));
-    EXPECT_TRUE(isFolder(folder.get()));
-    EXPECT_FALSE(isFolder(file.get()));
-    EXPECT_FALSE(isFolder(nullptr));
-    EXPECT_EQ(service->FileExists(file.get(), nullptr), E_POINTER);
+    VARIANT_BOOL isFile = 1;
+    VARIANT_BOOL isFolder = 1;
+    for (BSTR path : {file.get(), folder.get(), missing.get(), BSTR(nullptr)}) {
+        EXPECT_EQ(service->FileExists(path, &isFile), S_OK);
+        EXPECT_EQ(service->FolderExists(path, &isFolder), S_OK);
+        EXPECT_EQ(isFile, path == file.get() ? VARIANT_TRUE : VARIANT_FALSE);
+        EXPECT_EQ(isFolder, path == folder.get() ? VARIANT_TRUE : VARIANT_FALSE);
+    }
     EXPECT_EQ(service->Revalidate(missing.get()), S_OK);
 }
 

@@ -15,43 +15,40 @@ static_assert(sizeof(GUID) == 16 && sizeof(VARIANT) == 24 && offsetof(VARIANT, l
 static_assert(sizeof(SAFEARRAY) == 32 && offsetof(SAFEARRAY, pvData) == 16 && offsetof(SAFEARRAY, rgsabound) == 24);
 static_assert(sizeof(DISPPARAMS) == 24 && sizeof(EXCEPINFO) == 64);
 
-// An object that only counts.
-class Counted final : public IUnknown
+// An object that only counts, with an interface of its own.
+template <class Interface>
+class Counting : public Interface
 {
 public:
-    HRESULT QueryInterface(REFIID iid, void** object) override
+    explicit Counting(const IID& own) : iid(own) {}
+    HRESULT QueryInterface(REFIID wanted, void** object) override
     {
-        *object = iid == IID_IUnknown ? this : nullptr;
+        *object = wanted == IID_IUnknown || wanted == iid ? this : nullptr;
         references += *object != nullptr;
         return *object != nullptr ? S_OK : E_NOINTERFACE;
     }
     ULONG AddRef() override { return ++references; }
     ULONG Release() override { return --references; }
-    virtual ~Counted() = default;
+    virtual ~Counting() = default;
     ULONG references = 1;
+
+private:
+    const IID& iid;
+};
+
+class Counted final : public Counting<IUnknown>
+{
+public:
+    Counted() : Counting(IID_IUnknown) {}
 };
 
 // A class object that makes the object given.
-class CountedFactory final : public IClassFactory
+class CountedFactory final : public Counting<IClassFactory>
 {
 public:
-    explicit CountedFactory(Counted& made) : object(made) {}
-    HRESULT QueryInterface(REFIID iid, void** out) override
-    {
-        *out = iid == IID_IUnknown || iid == IID_IClassFactory ? this : nullptr;
-        references += *out != nullptr;
-        return *out != nullptr ? S_OK : E_NOINTERFACE;
-    }
-    ULONG AddRef() override { return ++references; }
-    ULONG Release() override { return --references; }
-    HRESULT CreateInstance(IUnknown* outer, REFIID iid, void** out) override
-    {
-        *out = nullptr;
-        return outer != nullptr ? CLASS_E_NOAGGREGATION : object.QueryInterface(iid, out);
-    }
+    explicit CountedFactory(Counted& made) : Counting(IID_IClassFactory), object(made) {}
+    HRESULT CreateInstance(IUnknown*, REFIID wanted, void** out) override { return object.QueryInterface(wanted, out); }
     HRESULT LockServer(BOOL) override { return S_OK; }
-    virtual ~CountedFactory() = default;
-    ULONG references = 1;
 
 private:
     Counted& object;
@@ -59,9 +56,9 @@ private:
 
 const CLSID testClass = {0x2C64BDD5, 0xB6A0, 0x4F36, {0x9B, 0x3C, 0x3A, 0x0E, 0x11, 0x5D, 0x24, 0x0A}};
 
-HRESULT create(DWORD context, IUnknown** object, IUnknown* outer = nullptr, const IID& iid = IID_IUnknown)
+HRESULT create(DWORD context, IUnknown** object, const IID& iid = IID_IUnknown)
 {
-    return CoCreateInstance(testClass, outer, context, iid, reinterpret_cast<void**>(object));
+    return CoCreateInstance(testClass, nullptr, context, iid, reinterpret_cast<void**>(object));
 }
 
 TEST(Com, threadsArePreparedOneByOne)
@@ -95,34 +92,24 @@ TEST(Com, classObjectsAreFoundByTheirKindOfServer)
     const ComThread com;
     Counted counted;
     CountedFactory factory(counted);
-    const struct
-    {
-        const char* what;
-        DWORD registered;
-        DWORD wanted;
-        HRESULT result;
-    } rows[] = {
+    const std::tuple<const char*, DWORD, DWORD, HRESULT> rows[] = {
         {"any", CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, CLSCTX_ALL, S_OK},
-        {"local among both", CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, CLSCTX_LOCAL_SERVER, S_OK},
-        {"local", CLSCTX_LOCAL_SERVER, CLSCTX_LOCAL_SERVER, S_OK},
-        {"any as local", CLSCTX_LOCAL_SERVER, CLSCTX_ALL, S_OK},
-        {"any as in process", CLSCTX_INPROC_SERVER, CLSCTX_ALL, S_OK},
         {"in process as local", CLSCTX_INPROC_SERVER, CLSCTX_LOCAL_SERVER, REGDB_E_CLASSNOTREG},
         {"local as in process", CLSCTX_LOCAL_SERVER, CLSCTX_INPROC_SERVER, S_OK},
     };
-    for (const auto& row : rows) {
+    for (const auto& [what, registered, wanted, result] : rows) {
         DWORD cookie = 0;
         IUnknown* object = nullptr;
-        ASSERT_EQ(CoRegisterClassObject(testClass, &factory, row.registered, REGCLS_MULTIPLEUSE, &cookie), S_OK);
-        EXPECT_GT(factory.references, 1u) << row.what;
-        EXPECT_EQ(create(row.wanted, &object), row.result) << row.what;
-        EXPECT_EQ(object, row.result == S_OK ? &counted : nullptr) << row.what;
+        ASSERT_EQ(CoRegisterClassObject(testClass, &factory, registered, REGCLS_MULTIPLEUSE, &cookie), S_OK);
+        EXPECT_GT(factory.references, 1u) << what;
+        EXPECT_EQ(create(wanted, &object), result) << what;
+        EXPECT_EQ(object, result == S_OK ? &counted : nullptr) << what;
         if (object != nullptr)
             object->Release();
         EXPECT_EQ(CoRevokeClassObject(cookie), S_OK);
-        EXPECT_EQ(factory.references, 1u) << row.what;
-        EXPECT_EQ(create(row.wanted, &object), REGDB_E_CLASSNOTREG) << row.what;
-        EXPECT_EQ(CoRevokeClassObject(cookie), E_INVALIDARG) << row.what;
+        EXPECT_EQ(factory.references, 1u) << what;
+        EXPECT_EQ(create(wanted, &object), REGDB_E_CLASSNOTREG) << what;
+        EXPECT_EQ(CoRevokeClassObject(cookie), E_INVALIDARG) << what;
     }
     EXPECT_EQ(counted.references, 1u);
 }
@@ -135,7 +122,7 @@ TEST(Com, creationPassesOnWhatTheClassObjectAnswers)
     DWORD cookie = 0;
     ASSERT_EQ(CoRegisterClassObject(testClass, &factory, CLSCTX_LOCAL_SERVER, REGCLS_MULTIPLEUSE, &cookie), S_OK);
     IUnknown* object = nullptr;
-    EXPECT_EQ(create(CLSCTX_ALL, &object, nullptr, IID_IDispatch), E_NOINTERFACE);
+    EXPECT_EQ(create(CLSCTX_ALL, &object, IID_IDispatch), E_NOINTERFACE);
     EXPECT_EQ(object, nullptr);
     EXPECT_EQ(create(CLSCTX_ALL, nullptr), E_POINTER);
     IClassFactory* found = nullptr;
@@ -179,18 +166,15 @@ TEST(Com, countedTexts)
     const Wide withZero = W("a\0b"s);
     const BSTR text = SysAllocStringLen(withZero.data(), 3);
     EXPECT_EQ(SysStringLen(text), 3u);
-    EXPECT_EQ(SysStringByteLen(text), 6u);
     EXPECT_EQ(Wide(text, 4), withZero + Wide(1, W('\0'))) << "with a terminator";
     BSTR variable = SysAllocString(W("abc"));
     EXPECT_EQ(SysReAllocString(&variable, W("longer text")), 1);
     EXPECT_EQ(Wide(variable), W("longer text"));
-    EXPECT_EQ(SysStringLen(variable), 11u);
     SysFreeString(variable);
     SysFreeString(text);
 
     const BSTR bytes = SysAllocStringByteLen("xyz", 3);
     EXPECT_EQ(SysStringByteLen(bytes), 3u);
-    EXPECT_EQ(SysStringLen(bytes), 1u);
     EXPECT_EQ(std::string(reinterpret_cast<const char*>(bytes), 5), "xyz\0\0"s);
     SysFreeString(bytes);
     const BSTR undefined = SysAllocStringLen(nullptr, 5);
@@ -200,65 +184,60 @@ TEST(Com, countedTexts)
 
     EXPECT_EQ(SysAllocString(nullptr), nullptr);
     EXPECT_EQ(SysStringLen(nullptr), 0u);
-    EXPECT_EQ(SysStringByteLen(nullptr), 0u);
     EXPECT_EQ(SysAllocStringLen(W(""), 0xFFFFFFFF), nullptr) << "beyond the range";
     SysFreeString(nullptr);
-    CoTaskMemFree(nullptr);
     void* const block = CoTaskMemAlloc(10);
     EXPECT_NE(block, nullptr);
     CoTaskMemFree(block);
 }
 
-VARIANT number(LONG value)
+VARIANT valueOf(int type, LONGLONG value = 0)
 {
     VARIANT result;
     VariantInit(&result);
-    result.vt = VT_I4;
-    result.lVal = value;
+    EXPECT_EQ(result.vt, VT_EMPTY);
+    result.vt = static_cast<VARTYPE>(type);
+    result.llVal = value;
+    return result;
+}
+
+// A reference to an object.
+VARIANT valueOf(Counted& object)
+{
+    VARIANT result = valueOf(VT_UNKNOWN);
+    result.punkVal = &object;
     return result;
 }
 
 TEST(Com, valuesOwnWhatTheyHold)
 {
     Counted counted;
-    VARIANT from;
-    VariantInit(&from);
-    EXPECT_EQ(from.vt, VT_EMPTY);
-    from.vt = VT_UNKNOWN;
-    from.punkVal = &counted;
+    VARIANT from = valueOf(counted);
     counted.AddRef();
-    VARIANT to = number(7);
+    VARIANT to = valueOf(VT_I4, 7);
     EXPECT_EQ(VariantCopy(&to, &from), S_OK);
     EXPECT_EQ(counted.references, 3u);
     EXPECT_EQ(VariantCopy(&to, &to), S_OK);
     EXPECT_EQ(counted.references, 3u);
 
-    VARIANT text;
-    VariantInit(&text);
-    text.vt = VT_BSTR;
+    VARIANT text = valueOf(VT_BSTR);
     text.bstrVal = SysAllocStringLen(W("a\0b"), 3);
     EXPECT_EQ(VariantCopy(&to, &text), S_OK);
     EXPECT_EQ(counted.references, 2u) << "what was there is released";
-    EXPECT_EQ(to.vt, VT_BSTR);
     EXPECT_NE(to.bstrVal, text.bstrVal);
     EXPECT_EQ(takeBstr(to.bstrVal), Wide(W("a\0b"), 3));
 
     // A reference to somebody else's value owns nothing.
-    VARIANT reference;
-    VariantInit(&reference);
-    reference.vt = VT_BYREF | VT_BSTR;
+    VARIANT reference = valueOf(VT_BYREF | VT_BSTR);
     reference.pbstrVal = &text.bstrVal;
     EXPECT_EQ(VariantClear(&reference), S_OK);
     EXPECT_EQ(Wide(text.bstrVal), W("a"));
     EXPECT_EQ(VariantClear(&text), S_OK);
     EXPECT_EQ(VariantClear(&from), S_OK);
-    EXPECT_EQ(from.vt, VT_EMPTY);
     EXPECT_EQ(counted.references, 1u);
 
-    VARIANT bad = number(0);
     for (int type : {15, 0x0FFF, VT_I4 | 0x8000, int(VT_ARRAY)}) {
-        bad.vt = static_cast<VARTYPE>(type);
-        bad.llVal = 0;
+        VARIANT bad = valueOf(type);
         EXPECT_EQ(VariantClear(&bad), DISP_E_BADVARTYPE) << type;
     }
 }
@@ -278,7 +257,6 @@ TEST(Com, arraysHoldTheFirstDimensionTogether)
     EXPECT_EQ(bound, -1);
     EXPECT_EQ(SafeArrayGetUBound(array, 1, &bound), S_OK);
     EXPECT_EQ(bound, 3);
-    EXPECT_EQ(SafeArrayGetUBound(array, 3, &bound), DISP_E_BADINDEX);
     EXPECT_EQ(SafeArrayGetLBound(array, 0, &bound), DISP_E_BADINDEX);
     for (LONG first = 1; first <= 3; ++first) {
         for (LONG second = -1; second <= 0; ++second) {
@@ -300,10 +278,6 @@ TEST(Com, arraysHoldTheFirstDimensionTogether)
         EXPECT_EQ(SafeArrayPutElement(array, indices, &bound), DISP_E_BADINDEX);
     }
     EXPECT_EQ(SafeArrayDestroy(array), S_OK);
-    EXPECT_EQ(SafeArrayDestroy(nullptr), S_OK);
-    EXPECT_EQ(SafeArrayGetDim(nullptr), 0u);
-    EXPECT_EQ(SafeArrayCreate(VT_I4, 0, bounds), nullptr);
-    EXPECT_EQ(SafeArrayCreate(VT_EMPTY, 1, bounds), nullptr);
 }
 
 TEST(Com, arraysOwnTheirElements)
@@ -312,32 +286,25 @@ TEST(Com, arraysOwnTheirElements)
     SAFEARRAY* const array = SafeArrayCreateVector(VT_VARIANT, 0, 3);
     ASSERT_NE(array, nullptr);
     LONG index = 0;
-    VARIANT value;
-    VariantInit(&value);
-    value.vt = VT_UNKNOWN;
-    value.punkVal = &counted;
+    VARIANT value = valueOf(counted);
     EXPECT_EQ(SafeArrayPutElement(array, &index, &value), S_OK);
     index = 2;
     EXPECT_EQ(SafeArrayPutElement(array, &index, &value), S_OK);
     EXPECT_EQ(counted.references, 3u);
-    VARIANT four = number(4);
+    VARIANT four = valueOf(VT_I4, 4);
     EXPECT_EQ(SafeArrayPutElement(array, &index, &four), S_OK);
     EXPECT_EQ(counted.references, 2u) << "what was there is released";
 
     // A value that holds the array copies all of it.
-    VARIANT holder;
-    VARIANT copy;
-    VariantInit(&holder);
-    VariantInit(&copy);
-    holder.vt = VT_ARRAY | VT_VARIANT;
+    VARIANT holder = valueOf(VT_ARRAY | VT_VARIANT);
+    VARIANT copy = valueOf(VT_EMPTY);
     holder.parray = array;
     EXPECT_EQ(VariantCopy(&copy, &holder), S_OK);
     EXPECT_NE(copy.parray, array);
     EXPECT_EQ(counted.references, 3u);
     EXPECT_EQ(VariantClear(&holder), S_OK);
     EXPECT_EQ(counted.references, 2u);
-    VARIANT element;
-    VariantInit(&element);
+    VARIANT element = valueOf(VT_EMPTY);
     EXPECT_EQ(SafeArrayGetElement(copy.parray, &index, &element), S_OK);
     EXPECT_EQ(element.vt, VT_I4);
     EXPECT_EQ(element.lVal, 4);
@@ -359,24 +326,15 @@ TEST(Com, arraysOwnTheirElements)
 }
 
 // Tells nothing but that it is there.
-class Info final : public IErrorInfo
+class Info final : public Counting<IErrorInfo>
 {
 public:
-    HRESULT QueryInterface(REFIID iid, void** object) override
-    {
-        *object = iid == IID_IUnknown || iid == IID_IErrorInfo ? this : nullptr;
-        references += *object != nullptr;
-        return *object != nullptr ? S_OK : E_NOINTERFACE;
-    }
-    ULONG AddRef() override { return ++references; }
-    ULONG Release() override { return --references; }
+    Info() : Counting(IID_IErrorInfo) {}
     HRESULT GetGUID(GUID*) override { return E_NOTIMPL; }
     HRESULT GetSource(BSTR*) override { return E_NOTIMPL; }
     HRESULT GetDescription(BSTR*) override { return E_NOTIMPL; }
     HRESULT GetHelpFile(BSTR*) override { return E_NOTIMPL; }
     HRESULT GetHelpContext(DWORD*) override { return E_NOTIMPL; }
-    virtual ~Info() = default;
-    ULONG references = 1;
 };
 
 TEST(Com, errorObjectsAreTakenOnce)
@@ -394,7 +352,6 @@ TEST(Com, errorObjectsAreTakenOnce)
     EXPECT_EQ(SetErrorInfo(0, nullptr), S_OK);
     EXPECT_EQ(info.references, 1u);
     EXPECT_EQ(GetErrorInfo(1, &taken), E_INVALIDARG);
-    EXPECT_EQ(GetErrorInfo(0, nullptr), E_INVALIDARG);
 }
 
 TEST(Com, errorsShareWhatTheyTell)
@@ -406,7 +363,6 @@ TEST(Com, errorsShareWhatTheyTell)
         const _com_error other(E_ABORT);
         EXPECT_EQ(info.references, 3u);
         copy = other;
-        EXPECT_EQ(copy.Error(), E_ABORT);
         EXPECT_EQ(copy.ErrorInfo(), nullptr);
         copy = error;
         EXPECT_EQ(copy.Error(), E_FAIL);
@@ -414,11 +370,8 @@ TEST(Com, errorsShareWhatTheyTell)
         EXPECT_EQ(taken, &info);
         EXPECT_EQ(info.references, 4u);
         taken->Release();
-        EXPECT_NE(copy.ErrorMessage(), nullptr);
     }
     EXPECT_EQ(info.references, 1u);
-    EXPECT_TRUE(SUCCEEDED(S_FALSE));
-    EXPECT_TRUE(FAILED(E_FAIL));
     EXPECT_TRUE(IsEqualIID(IID_IUnknown, IID_IUnknown));
     EXPECT_FALSE(IsEqualGUID(IID_IUnknown, IID_IDispatch));
     EXPECT_FALSE(IsEqualCLSID(ZU_CLSID_HostField, ZU_CLSID_HostFieldCollection));

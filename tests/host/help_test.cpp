@@ -64,10 +64,11 @@ const std::string box = threeTimes(
     "MFC DLL does not exist in your system area\nPlease check the installation of this product from the Morvek "
     "distribution disk.\n\n");
 
-class Help : public testing::Test
+// A directory with places for companion libraries.
+class World
 {
-protected:
-    Help()
+public:
+    World()
     {
         fs::current_path(sandbox.native());
         fs::create_directories(sandbox.native(W("Programs")));
@@ -120,79 +121,58 @@ protected:
     Sandbox sandbox;
 };
 
-class HelpIn : public Help, public testing::WithParamInterface<Place>
+TEST(Help, whatTheCompanionsMakeOfIt)
 {
-};
-
-TEST_P(HelpIn, theLibraryIsCalledWhereverItIs)
-{
-    put(GetParam(), "zu_test_help_library", "zu_HLP18AN");
-    putPageViewer();
-    ask();
-    EXPECT_EQ(read(W("out.txt")), allHelp);
-    EXPECT_EQ(read(W("boxes.txt")), "");
-}
-
-INSTANTIATE_TEST_SUITE_P(Places, HelpIn, testing::Values(Place::loaded, Place::binaryDirectory, Place::searchPath));
-
-TEST_F(Help, anOperationThatItLacksAnswersNothing)
-{
-    put(Place::searchPath, "zu_test_old_help_library", "zu_HLP18AN");
-    putPageViewer();
-    ask();
-    EXPECT_EQ(read(W("out.txt")), "41\n4321\n0\n");
-    EXPECT_EQ(read(W("boxes.txt")), "");
-}
-
-TEST_F(Help, theUiLibraryTellsThatThereIsNone)
-{
-    put(Place::searchPath, "zu_test_ui_library", "ZU_MFC18AN");
-    putPageViewer();
-    ask();
-    EXPECT_EQ(read(W("out.txt")), noHelp);
-    EXPECT_EQ(read(W("alert.txt")), alert);
-    EXPECT_EQ(read(W("boxes.txt")), "");
-}
-
-TEST_F(Help, theUiLibraryIsUsedWhenItIsLoaded)
-{
-    put(Place::loaded, "zu_test_ui_library", "ZU_MFC18AN");
-    ask();
-    EXPECT_EQ(read(W("out.txt")), noHelp);
-    EXPECT_EQ(read(W("alert.txt")), alert);
-}
-
-TEST_F(Help, aBoxTellsWhenThereIsNoUiLibraryEither)
-{
-    // Nobody looks for it in the binary directory.
-    put(Place::binaryDirectory, "zu_test_ui_library", "ZU_MFC18AN");
-    ask();
-    EXPECT_EQ(read(W("out.txt")), noHelp);
-    EXPECT_EQ(read(W("alert.txt")), "");
-    EXPECT_EQ(read(W("boxes.txt")), box);
-}
-
-TEST_F(Help, aUiLibraryWithoutAlertsIsSilent)
-{
-    put(Place::searchPath, "zu_test_plain", "ZU_MFC18AN");
-    ask();
-    EXPECT_EQ(read(W("out.txt")), noHelp);
-    EXPECT_EQ(read(W("boxes.txt")), "");
+    const char* const help = "zu_test_help_library";
+    const char* const ui = "zu_test_ui_library";
+    const struct
+    {
+        const char* what;
+        Place helpPlace;
+        const char* helpLibrary;
+        Place uiPlace;
+        const char* uiLibrary;
+        std::string said;
+        std::string alerted;
+        std::string boxes;
+    } rows[] = {
+        {"loaded", Place::loaded, help, Place::nowhere, ui, allHelp, "", ""},
+        {"in the binary directory", Place::binaryDirectory, help, Place::nowhere, ui, allHelp, "", ""},
+        {"along the path", Place::searchPath, help, Place::nowhere, ui, allHelp, "", ""},
+        {"an operation is missing", Place::searchPath, "zu_test_old_help_library", Place::nowhere, ui, "41\n4321\n0\n",
+         "", ""},
+        {"the UI library tells", Place::nowhere, help, Place::searchPath, ui, noHelp, alert, ""},
+        {"the UI library is loaded", Place::nowhere, help, Place::loaded, ui, noHelp, alert, ""},
+        {"nobody looks for it there", Place::nowhere, help, Place::binaryDirectory, ui, noHelp, "", box},
+        {"no alerts in it", Place::nowhere, help, Place::searchPath, "zu_test_plain", noHelp, "", ""},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
+        World world;
+        world.put(row.helpPlace, row.helpLibrary, "zu_HLP18AN");
+        world.put(row.uiPlace, row.uiLibrary, "ZU_MFC18AN");
+        world.putPageViewer();
+        world.ask();
+        EXPECT_EQ(world.read(W("out.txt")), row.said);
+        EXPECT_EQ(world.read(W("alert.txt")), row.alerted);
+        EXPECT_EQ(world.read(W("boxes.txt")), row.boxes);
+    }
 }
 
 #if !defined(_WIN32)
 
-TEST_F(Help, theLibraryNeedsAPageViewer)
+TEST(Help, theLibraryNeedsAPageViewer)
 {
-    put(Place::searchPath, "zu_test_help_library", "zu_HLP18AN");
-    put(Place::searchPath, "zu_test_ui_library", "ZU_MFC18AN");
-    ask();
-    EXPECT_EQ(read(W("out.txt")), noHelp);
-    EXPECT_EQ(read(W("alert.txt")), alert);
-    sandbox.write(W("Search\\mshtml.dll"), "");
-    sandbox.setEnvironment("PATH", "/bin::Search");
-    ask();
-    EXPECT_EQ(read(W("out.txt")), allHelp) << "along PATH";
+    World world;
+    world.put(Place::searchPath, "zu_test_help_library", "zu_HLP18AN");
+    world.put(Place::searchPath, "zu_test_ui_library", "ZU_MFC18AN");
+    world.ask();
+    EXPECT_EQ(world.read(W("out.txt")), noHelp);
+    EXPECT_EQ(world.read(W("alert.txt")), alert);
+    world.sandbox.write(W("Search\\mshtml.dll"), "");
+    world.sandbox.setEnvironment("PATH", "/bin::Search");
+    world.ask();
+    EXPECT_EQ(world.read(W("out.txt")), allHelp) << "along PATH";
 }
 
 #endif

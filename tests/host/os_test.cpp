@@ -13,12 +13,7 @@ using zu::platform::OsRecord;
 
 TEST(Os, codes)
 {
-    const struct
-    {
-        OsRecord os;
-        int code;
-    } rows[] = {
-        {{OsFamily::windows9x, 4, 0, 949}, 0},    {{OsFamily::windows9x, 4, 0, 950}, 1},
+    const std::tuple<OsRecord, int> rows[] = {
         {{OsFamily::windows9x, 4, 9, 951}, 2},    {{OsFamily::windows9x, 4, 0, 1080}, 2},
         {{OsFamily::windows9x, 4, 0, 1081}, 3},   {{OsFamily::windows9x, 4, 10, 1997}, 0},
         {{OsFamily::windows9x, 4, 10, 1998}, 4},  {{OsFamily::windows9x, 4, 10, 1999}, 5},
@@ -32,9 +27,8 @@ TEST(Os, codes)
         {{OsFamily::windowsNt, 10, 0, 19045}, 0}, {{OsFamily::windowsCe, 6, 0, 0}, 201},
         {{OsFamily::other, 6, 0, 0}, 0},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(static_cast<int>(zu::classify(row.os)), row.code)
-            << row.os.major << "." << row.os.minor << "." << row.os.build;
+    for (const auto& [os, code] : rows)
+        EXPECT_EQ(static_cast<int>(zu::classify(os)), code) << os.major << "." << os.minor << "." << os.build;
 }
 
 TEST(Os, thisOne)
@@ -61,8 +55,8 @@ TEST(Os, theFileServiceDecidesWhatTheEditorShows)
     EXPECT_THROW(zu_Global_openFileinNotepad(path.c_str()), _com_error);
     host.fail("FileService.FileExists", S_OK);
     host.calls();
-    EXPECT_EQ(zu_Global_openFileinNotepad(nullptr), 0);
     EXPECT_EQ(zu_Global_openFileinNotepad(W("")), 0);
+    EXPECT_EQ(zu_Global_openFileinNotepad(nullptr), 0);
     EXPECT_TRUE(host.calls().empty());
     host.hasFileService = false;
     zu_Global_destroyData();

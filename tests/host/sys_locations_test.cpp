@@ -36,7 +36,6 @@ TEST(SysLocations, directoriesFollowTheSettings)
     EXPECT_EQ(str(zu_Sys_getLocalName(path, W("X"))), W("e:\\work\\x"));
     EXPECT_EQ(str(zu_Sys_getNetDir(path)), W("f:\\"));
     EXPECT_EQ(str(zu_Sys_getBinName(path, W("A.EXE"))), W("d:\\programs\\a.exe"));
-    EXPECT_EQ(zu_Sys_getNetDir(nullptr), nullptr);
     EXPECT_EQ(zu_Sys_is64bitSystem(), 1);
 }
 
@@ -61,7 +60,6 @@ TEST(SysLocations, theTemporaryDirectoryOfASession)
     fs::create_directories(world.native(W("tmp\\2")));
     PathBuffer path;
     EXPECT_EQ(str(zu_Sys_getTempDir(path, 1)), lowered(world.path(W("tmp\\3\\"))));
-    EXPECT_TRUE(world.exists(W("tmp\\3")));
     EXPECT_EQ(str(zu_Env_getSes(W("KVSES"))), W("3"));
     EXPECT_EQ(str(zu_Env_getSes(W("KVTMP"))), world.path(W("Tmp")));
     EXPECT_EQ(str(zu_Sys_getTempName(path, W("A.tmp"), 1)), lowered(world.path(W("tmp\\3\\a.tmp")))) << "chosen once";
@@ -103,8 +101,8 @@ TEST(SysLocations, whatTheHostNames)
     EXPECT_EQ(zu_Sys_setApplicationGroup(W("Piping")), 1);
     EXPECT_EQ(zu_Sys_getApplicationGroup(group, 4), 1);
     EXPECT_EQ(group.str(), W("Pipi"));
-    EXPECT_EQ(zu_Sys_setApplicationGroup(nullptr), 0);
-    EXPECT_EQ(zu_Sys_getApplicationGroup(nullptr, 4), 0);
+    EXPECT_TRUE(allAre(0, {zu_Sys_getApplicationGroup(nullptr, 4), zu_Sys_setApplicationGroup(nullptr)}));
+    EXPECT_EQ(zu_Sys_getNetDir(nullptr), nullptr);
     EXPECT_EQ(zu_Sys_setShowModeSelectGUI(7), 0) << "written";
     EXPECT_EQ(zu_Sys_getShowModeSelectGUI(), 1);
     EXPECT_EQ(zu_Sys_setShowModeSelectGUI(0), 0);

@@ -54,17 +54,9 @@ TEST_F(MsgTranslated, aFailingTranslatorIsRaisedAndNothingLeaks)
 {
     host.fail("Translator.Translate", E_ACCESSDENIED);
     const std::int64_t before = liveBlocks();
-    const auto raised = [](auto call) {
-        try {
-            call();
-        } catch (const _com_error& error) {
-            return error.Error();
-        }
-        return HRESULT{S_OK};
-    };
-    EXPECT_EQ(raised([] { zu_Msg("abc", "TOOL", 5); }), E_ACCESSDENIED);
-    EXPECT_EQ(raised([] { zu_Msg_mlt(W("k"), W("a"), W("S"), 5, end); }), E_ACCESSDENIED);
-    EXPECT_EQ(raised([] { zu_Msg_getKeyWordList(W("a,b"), W("S"), 0); }), E_ACCESSDENIED);
+    EXPECT_EQ(raisedBy([] { zu_Msg("abc", "TOOL", 5); }), E_ACCESSDENIED);
+    EXPECT_EQ(raisedBy([] { zu_Msg_mlt(W("k"), W("a"), W("S"), 5, end); }), E_ACCESSDENIED);
+    EXPECT_EQ(raisedBy([] { zu_Msg_getKeyWordList(W("a,b"), W("S"), 0); }), E_ACCESSDENIED);
     EXPECT_EQ(liveBlocks(), before);
     host.fail("Translator.Translate", S_OK);
     host.hasTranslator = false;

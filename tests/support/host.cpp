@@ -568,6 +568,16 @@ Wide& TestHost::iniValue(WideView file, WideView group, WideView key)
     return place->entries.emplace_back(Wide(key), Wide()).second;
 }
 
+HRESULT raisedBy(const std::function<void()>& call)
+{
+    try {
+        call();
+    } catch (const _com_error& error) {
+        return error.Error();
+    }
+    return S_OK;
+}
+
 Wide takeBstr(BSTR text)
 {
     Wide result = textOf(text);

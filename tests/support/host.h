@@ -98,6 +98,9 @@ private:
     int32_t builtInBefore;
 };
 
+// The error that a call raises; S_OK for none.
+HRESULT raisedBy(const std::function<void()>& call);
+
 // A text from COM, which is released.
 Wide takeBstr(BSTR text);
 

@@ -2,6 +2,8 @@
 // one-way.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <cstdint>
 #include <functional>
 
@@ -27,5 +29,18 @@ public:
 // Runs attempt with 0, 1, 2, ... allocations allowed until it runs without a failure. After each failing run `check`
 // tells whether the failure was reported as it should be; blocks that an attempt leaves behind are leaks.
 void sweepAllocations(const std::function<void()>& attempt, const std::function<void()>& check);
+
+// The same for a call that makes something: it gives null when memory is short.
+template <class Make, class Destroy>
+void sweepMaking(const Make& make, const Destroy& destroy)
+{
+    decltype(make()) made = nullptr;
+    sweepAllocations(
+        [&] {
+            if ((made = make()) != nullptr)
+                destroy(made);
+        },
+        [&] { EXPECT_EQ(made, nullptr); });
+}
 
 } // namespace zutest

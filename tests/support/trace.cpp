@@ -37,4 +37,16 @@ std::vector<std::string> TraceCapture::lines()
     return result;
 }
 
+std::string printedBy(const std::function<void()>& action, std::FILE* stream)
+{
+    std::fflush(stream);
+    stream == stdout ? testing::internal::CaptureStdout() : testing::internal::CaptureStderr();
+    action();
+    std::fflush(stream);
+    std::string text =
+        stream == stdout ? testing::internal::GetCapturedStdout() : testing::internal::GetCapturedStderr();
+    std::erase(text, '\r');
+    return text;
+}
+
 } // namespace zutest

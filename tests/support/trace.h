@@ -1,8 +1,10 @@
-// Captures the trace lines of operations.
+// Captures what operations write: their trace lines, and what they print.
 #pragma once
 
 #include "support/sandbox.h"
 
+#include <cstdio>
+#include <functional>
 #include <vector>
 
 namespace zutest {
@@ -20,5 +22,8 @@ public:
 private:
     Sandbox sandbox;
 };
+
+// What an action writes to standard output or standard error, with \n for the line ends.
+std::string printedBy(const std::function<void()>& action, std::FILE* stream = stdout);
 
 } // namespace zutest

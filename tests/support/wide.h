@@ -7,6 +7,8 @@
 
 #include <string>
 #include <string_view>
+#include <tuple>
+#include <vector>
 
 #define W(text) ZU_W(text)
 
@@ -25,6 +27,21 @@ inline Wide str(const zu_wchar* text)
 inline Wide widen(std::string_view ascii)
 {
     return Wide(ascii.begin(), ascii.end());
+}
+
+// Whether calls gave one and the same result: what they answer to arguments that they cannot use.
+template <class T>
+testing::AssertionResult allAre(const T& wanted, const std::vector<T>& results)
+{
+    for (std::size_t index = 0; index < results.size(); ++index) {
+        if (results[index] != wanted)
+            return testing::AssertionFailure() << "call " << index << ": " << testing::PrintToString(results[index]);
+    }
+    return testing::AssertionSuccess();
+}
+inline testing::AssertionResult allNull(const std::vector<const void*>& results)
+{
+    return allAre<const void*>(nullptr, results);
 }
 
 // A caller's buffer for Size units, with a fence behind it that every check looks at.
