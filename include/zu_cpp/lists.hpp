@@ -139,14 +139,13 @@ struct integer_element
     static reference read(void* data) noexcept { return static_cast<const IntListNode*>(data)->value; }
 };
 
-/** The node of a string list holds one thing, the pointer to its text. */
 struct string_element
 {
     using value_type = wide_view;
     using reference = wide_view;
     static reference read(void* data) noexcept
     {
-        const zu_wchar* const text = data == nullptr ? nullptr : *static_cast<zu_wchar* const*>(data);
+        const zu_wchar* const text = data == nullptr ? nullptr : static_cast<const StrListNode*>(data)->string;
         return text == nullptr ? wide_view() : wide_view(text);
     }
 };
