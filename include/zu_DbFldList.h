@@ -3,7 +3,8 @@
  *  The record of the table interface: a list of fields, each a name with a one-letter type, a width, a number of
  *  decimals and a text value. It describes the structure of a table and carries its rows both ways (zu_Db.h).
  *
- *      DbFldList* pipe = zu_DbFldList_create(ZU_W("tag"), ZU_W("P-101"), ZU_W("dn"), ZU_W("100"), NULL);
+ *      DbFldList* pipe = zu_DbFldList_create(ZU_W("tag"), ZU_W("P-101"), ZU_W("dn"), ZU_W("100"),
+ *                                            (zu_wchar*)NULL);
  *      zu_DbFldList_modFldVal(pipe, ZU_W("DN"), ZU_W("150"));
  *      zu_DbFldList_destroy(pipe);
  *

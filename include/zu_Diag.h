@@ -114,7 +114,7 @@ ZU_API zu_wchar* zu_Diag_getDiagMsgBuf(void);
  *
  *  @param message  copied into the shared buffer, cut to its size; a longer one is reported by zu_Diag_putOutput. Null
  *                  and empty write nothing.
- *  @param source   source file named in the line, without its directory and in lower case.
+ *  @param source   source file named in the line, in lower case and without all up to its last "\", "/" or ":".
  *  @param line     line number named in the line. */
 ZU_API void zu_Diag_putOutputMsg(const zu_wchar* message, const zu_wchar* source, uint32_t line);
 

@@ -2,8 +2,8 @@
  *  @ingroup fields
  *  The field list: an ordered list of named, typed values, and the library's common record.
  *
- *      FldList* pipe = zu_FldList_create(ZU_W("SIZE"), ZU_FLD_REAL, 114.3, NULL);
- *      double size;
+ *      FldList* pipe = zu_FldList_create(ZU_W("SIZE"), ZU_FLD_REAL, 114.3, (zu_wchar*)NULL);
+ *      double size = 0.0;
  *      if (zu_FldList_getReal(pipe, ZU_W("size"), &size) == ZU_FLD_OK)
  *          use(size);
  *      zu_FldList_destroy(pipe);
@@ -12,6 +12,9 @@
  *  take the first. A field list is a generic list (zu_LnkList.h) of FldNode: its cursor is the one there. Finding a
  *  field by name leaves the cursor on it, or at the end of the list when there is none; that goes for every operation
  *  that takes a name, save the append operations, which never move it.
+ *
+ *  Lists may be nested. Destroying, copying and printing them go down level by level on the stack of the calling
+ *  thread: a thousand levels are safe on every system's stack.
  *
  *  @par Example
  *  @include fldlist.c
@@ -318,7 +321,8 @@ ZU_API int32_t zu_FldList_copyFld(FldList* source, const zu_wchar* sourceName, F
 ZU_API int32_t zu_FldList_concatenate(FldList* target, FldList* source);
 
 /** Sets every field of source in target by name, as the operations zu_FldList_mod… do; nested lists are copied whole,
- *  and string-list fields arrive as unknown ones.
+ *  and string-list fields arrive as unknown ones. A list combined with itself gives the first field of a name the value
+ *  of the last; everything else stays.
  *  @return 1; 0 for null arguments, and without memory (target may then have received some of them).
  *  Current of source: none. */
 ZU_API int32_t zu_FldList_combine(FldList* target, FldList* source);

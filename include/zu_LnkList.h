@@ -3,7 +3,7 @@
  *  The generic list: a doubly linked list of untyped data pointers with a current position, the cursor, in its header.
  *  Every other list of the library is one of these, so any list can be passed to these operations.
  *
- *      LnkList* list = zu_LnkList_create(&a, &b, NULL);
+ *      LnkList* list = zu_LnkList_create(&a, &b, (void*)NULL);
  *      for (zu_LnkList_start(list); !zu_LnkList_eol(list); zu_LnkList_next(list))
  *          use(zu_LnkList_getCurr(list));
  *      zu_LnkList_destroy(list, NULL);

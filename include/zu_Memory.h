@@ -47,7 +47,7 @@ ZU_API void* zu_Malloc(uint64_t size);
 /** Changes the size of a block.
  *
  *  @param block  from this library; null makes the call zu_Malloc(size).
- *  @param size   the new size in bytes.
+ *  @param size   the new size in bytes; 0 is taken as 1, so that null always means that the old block is still there.
  *  @return the block in its new place, or null; the old block then stays as it was. */
 ZU_API void* zu_Realloc(void* block, uint64_t size);
 

@@ -170,6 +170,9 @@ ZU_API int32_t zu_Str_compareVersion(const zu_wchar* a, const zu_wchar* b);
 
 /** Reads the next word of a list whose words are separated by spaces.
  *
+ *  Every call looks at the list from its beginning, so walking one of n units takes time in n squared. For long lists
+ *  there is zu_StrList_fromDelimitedString.
+ *
  *      int32_t position = 0;
  *      while (zu_Str_nextSDLWord(word, list, &position), word[0] != 0)
  *          use(word);
@@ -184,6 +187,9 @@ ZU_API void zu_Str_nextSDLWord(zu_wchar* word, const zu_wchar* list, int32_t* po
  *  At the delimiter on which the call before stopped, one delimiter is stepped over: ";;" holds an empty item. An empty
  *  item at the very front is therefore lost. At the end every call gives an empty item, so the end of the list shows in
  *  the position only: it has reached the list's length.
+ *
+ *  Every call looks at the list from its beginning, so walking one of n units takes time in n squared. For long lists
+ *  there is zu_StrList_fromDelimitedString, which drops empty items and the white space around the others.
  *  @param word      receives the item.
  *  @param position  as for zu_Str_nextSDLWord; out: the position of the delimiter or of the end.
  *  @return word. */

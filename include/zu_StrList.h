@@ -9,8 +9,8 @@
  *      zu_StrList_destroy(list);
  *
  *  A string list is a generic list (zu_LnkList.h): cursor rules and results of the operations of the same name are the
- *  ones there. Reading an element through the static buffers cuts it at 512 units; all other operations see whole
- *  strings. Comparison for sorting is the ordinal one of the 16-bit units.
+ *  ones there. Reading an element through the static buffers cuts it at 512 units; all other operations, and
+ *  StrListNode, see whole strings. Comparison for sorting is the ordinal one of the 16-bit units.
  *
  *  @par Example
  *  @include strlist.c
@@ -24,6 +24,12 @@ ZU_EXTERN_C_BEGIN
 
 /** A generic list whose data are strings of its own. */
 typedef LnkList StrList;
+
+/** An element. Read it freely, change it only through the operations. */
+typedef struct StrListNode
+{
+    zu_wchar* string; /**< the whole string, owned by the list; never null */
+} StrListNode;
 
 /** Makes a list of copies of the strings given, which end with a null pointer.
  *  @return a new list, released with zu_StrList_destroy; null without memory. Current: the first element. */

@@ -1,4 +1,5 @@
 /** @file zu_cpp/fields.hpp
+ *  @ingroup cpp
  *  Field lists: named, typed values, read and written by their C++ type. Part of zu.hpp.
  *
  *      auto pipe = zu::fields::of("TAG", "P-101", "SIZE", 114.3);
@@ -18,8 +19,8 @@
  *      zu::fields     written only; read as zu::fields_view    V
  *      zu::string_list  the same, as zu::strings_view          S
  *
- *  Finding a field by name moves the cursor of the list to it, or to the end: that is so for get, set, add, find,
- * remove. Ranges and append leave it alone.
+ *  Finding a field by name moves the cursor of the list to it, or to the end: that is so for get, set, add, find
+ *  and remove. Ranges and append leave it alone.
  */
 #ifndef ZU_CPP_FIELDS_HPP
 #define ZU_CPP_FIELDS_HPP
@@ -34,32 +35,34 @@ namespace zu {
 /** The types of fields, by the codes of zu_FldList.h. */
 enum class field_type : std::uint16_t
 {
-    text = ZU_FLD_CHAR,
-    handle = ZU_FLD_HANDLE,
-    integer = ZU_FLD_INT,
-    long_integer = ZU_FLD_LONG,
-    real = ZU_FLD_REAL,
-    point = ZU_FLD_POINT,
-    m_point = ZU_FLD_MPOINT,
-    d_point = ZU_FLD_DPOINT,
-    vector = ZU_FLD_VECTOR,
-    fields = ZU_FLD_LIST,
-    strings = ZU_FLD_STRLIST,
-    unknown = ZU_FLD_UNKNOWN
+    text = ZU_FLD_CHAR,         /**< C */
+    handle = ZU_FLD_HANDLE,     /**< H: a text too */
+    integer = ZU_FLD_INT,       /**< I */
+    long_integer = ZU_FLD_LONG, /**< L */
+    real = ZU_FLD_REAL,         /**< N */
+    point = ZU_FLD_POINT,       /**< P */
+    m_point = ZU_FLD_MPOINT,    /**< M */
+    d_point = ZU_FLD_DPOINT,    /**< D */
+    vector = ZU_FLD_VECTOR,     /**< O */
+    fields = ZU_FLD_LIST,       /**< V: a nested list */
+    strings = ZU_FLD_STRLIST,   /**< S: a string list */
+    unknown = ZU_FLD_UNKNOWN    /**< U: there is no value */
 };
 
 /** What became of a request to a field list. */
-enum class [[nodiscard]] field_status : std::int32_t{ok = ZU_FLD_OK,
-                                                     nothing = ZU_FLD_NOTHING,
-                                                     no_current = ZU_FLD_NO_CURRENT,
-                                                     not_found = ZU_FLD_NOT_FOUND,
-                                                     wrong_type = ZU_FLD_WRONG_TYPE,
-                                                     no_memory = ZU_FLD_NO_MEMORY};
+enum class [[nodiscard]] field_status : std::int32_t{
+    ok = ZU_FLD_OK,                 /**< done */
+    nothing = ZU_FLD_NOTHING,       /**< nothing done: no list, or an argument that is null */
+    no_current = ZU_FLD_NO_CURRENT, /**< the list has no current field */
+    not_found = ZU_FLD_NOT_FOUND,   /**< there is no field of that name */
+    wrong_type = ZU_FLD_WRONG_TYPE, /**< the field is of another type; see field_result::converted */
+    no_memory = ZU_FLD_NO_MEMORY    /**< the field could not be allocated */
+};
 
 /** A text that is to be stored as, or was read by the rules of, a handle. */
 struct handle
 {
-    wide_string text;
+    wide_string text; /**< the text itself */
 };
 
 /** The value of a field, or why there is none.
@@ -75,8 +78,11 @@ public:
     /** A value with the status that came with it. */
     field_result(field_status with, T value) : state(with), held(std::move(value)) {}
 
+    /** What the flat call answered. */
     field_status status() const noexcept { return state; }
+    /** Whether the request was done and gave a value. */
     bool has_value() const noexcept { return state == field_status::ok && held.has_value(); }
+    /** The same as has_value(). */
     explicit operator bool() const noexcept { return has_value(); }
     /** The value. Throws std::bad_optional_access when there is none. */
     const T& value() const
@@ -87,7 +93,9 @@ public:
     }
     /** The value; there must be one. */
     const T& operator*() const noexcept { return *held; }
+    /** The same, for a member of it. */
     const T* operator->() const noexcept { return &*held; }
+    /** A copy of the value, or the other one when there is none. */
     template <class Other>
     T value_or(Other&& other) const
     {
@@ -133,11 +141,14 @@ public:
     using value_type =
         std::variant<std::monostate, wide_view, std::int32_t, double, Point, Vector, fields_view, strings_view>;
 
+    /** The field of a record, which must not be null. */
     explicit field(const FldNode* record) noexcept : node(record) {}
 
     /** The name, in upper case; empty for a field without one. */
     wide_view name() const noexcept { return node->name == nullptr ? wide_view() : wide_view(node->name); }
+    /** The type by its code. */
     field_type type() const noexcept { return static_cast<field_type>(node->type); }
+    /** The value, borrowed from the list where it is a text or a list; empty for a text or a list that is null. */
     value_type value() const
     {
         const FldValue& held = node->value;
@@ -364,38 +375,45 @@ public:
         const FldNode* const node = zu_FldList_find(get(), name.c_str());
         return node == nullptr ? std::nullopt : std::optional<field>(node);
     }
+    /** Whether there is a field of a name. Moves the cursor. */
     [[nodiscard]] bool contains(const text& name) const { return find(name).has_value(); }
 
-    /** Sets a field: one that is there takes the value and its type, else it is appended. A nested list or string list
-     *  that the field held is destroyed. Moves the cursor. */
+    /** Sets a field: one that is there takes the value and its type, here C, else it is appended. A nested list or
+     *  string list that the field held is destroyed. Moves the cursor. */
     void set(const text& name, const text& value)
     {
         replace(
             name, [&] { return zu_FldList_modChar(get(), name.c_str(), value.c_str()); }, value.c_str());
     }
+    /** See the first of them; the field is of type H, and a new one has its text in upper case. */
     void set(const text& name, const handle& value)
     {
         replace(
             name, [&] { return zu_FldList_modHandle(get(), name.c_str(), value.text.c_str()); }, value.text.c_str());
     }
+    /** See the first of them; the field is of type I. */
     void set(const text& name, std::int32_t value)
     {
         replace(name, [&] { return zu_FldList_modInt(get(), name.c_str(), value); });
     }
+    /** See the first of them; the field is of type N. */
     void set(const text& name, double value)
     {
         replace(name, [&] { return zu_FldList_modReal(get(), name.c_str(), value); });
     }
+    /** See the first of them; the field is of type P. */
     void set(const text& name, const Point& value)
     {
         const double xyz[] = {value.x, value.y, value.z};
         replace(name, [&] { return zu_FldList_modPoint(get(), name.c_str(), xyz); });
     }
+    /** See the first of them; the field is of type O. */
     void set(const text& name, const Vector& value)
     {
         const double xyz[] = {value.x, value.y, value.z};
         replace(name, [&] { return zu_FldList_modVector(get(), name.c_str(), xyz); });
     }
+    /** See the first of them; the field owns the nested list from now on. */
     void set(const text& name, fields value)
     {
         replace(name, [&] { return taken_over(value, zu_FldList_modList(get(), name.c_str(), value.get())); });
@@ -406,37 +424,44 @@ public:
         replace(name, [&] { return zu_FldList_modUnknown(get(), name.c_str()); });
     }
 
-    /** Appends a field, whether or not the name is there already. Current: unchanged. */
+    /** Appends a field, here of type C, whether or not the name is there already. Current: unchanged. */
     void append(const text& name, const text& value)
     {
         appended([&] { return zu_FldList_appChar(get(), name.c_str(), value.c_str()); });
     }
+    /** See the first of them; the field is of type H and has the text in upper case. */
     void append(const text& name, const handle& value)
     {
         appended([&] { return zu_FldList_appHandle(get(), name.c_str(), value.text.c_str()); });
     }
+    /** See the first of them; the field is of type I. */
     void append(const text& name, std::int32_t value)
     {
         appended([&] { return zu_FldList_appInt(get(), name.c_str(), value); });
     }
+    /** See the first of them; the field is of type N. */
     void append(const text& name, double value)
     {
         appended([&] { return zu_FldList_appReal(get(), name.c_str(), value); });
     }
+    /** See the first of them; the field is of type P. */
     void append(const text& name, const Point& value)
     {
         const double xyz[] = {value.x, value.y, value.z};
         appended([&] { return zu_FldList_appPoint(get(), name.c_str(), xyz); });
     }
+    /** See the first of them; the field is of type O. */
     void append(const text& name, const Vector& value)
     {
         const double xyz[] = {value.x, value.y, value.z};
         appended([&] { return zu_FldList_appVector(get(), name.c_str(), xyz); });
     }
+    /** See the first of them; the field owns the nested list from now on. */
     void append(const text& name, fields value)
     {
         appended([&] { return taken_over(value, zu_FldList_appList(get(), name.c_str(), value.get())); });
     }
+    /** See the first of them; the field owns the string list from now on. */
     void append(const text& name, string_list value)
     {
         appended([&] { return taken_over(value, zu_FldList_appStrList(get(), name.c_str(), value.get())); });
@@ -453,10 +478,12 @@ public:
     {
         appended([&] { return zu_FldList_addCharVal(get(), name.c_str(), value.c_str()); });
     }
+    /** See the first of them; the value is of type I. */
     void add(const text& name, std::int32_t value)
     {
         appended([&] { return zu_FldList_addIntVal(get(), name.c_str(), value); });
     }
+    /** See the first of them; the value is of type N. */
     void add(const text& name, double value)
     {
         appended([&] { return zu_FldList_addRealVal(get(), name.c_str(), value); });

@@ -1,4 +1,5 @@
 /** @file zu_cpp/files.hpp
+ *  @ingroup cpp
  *  Files, directories and file names. Part of zu.hpp.
  *
  *      if (!zu::files::copy("D:\\jobs\\a.dat", "D:\\backup\\a.dat"))
@@ -32,15 +33,16 @@ wide_string edited(const text& name, std::size_t room, Edit edit)
 
 } // namespace zu::detail
 
+/** Files. */
 namespace zu::files {
 
 /** What a file is asked for. */
 enum class access : std::int32_t
 {
-    exists = 0,
-    write = 2,
-    read = 4,
-    read_write = 6
+    exists = 0,    /**< whether it is there at all */
+    write = 2,     /**< whether it may be written */
+    read = 4,      /**< whether it may be read */
+    read_write = 6 /**< whether both are allowed */
 };
 
 /** Whether the host's file service says that a file exists. */
@@ -63,12 +65,13 @@ enum class access : std::int32_t
 {
     return zu_File_copy(source.c_str(), destination.c_str()) == 0;
 }
-/** Appends the text of a file to another. The source comes first, as for copy and unlike zu_File_append. */
+/** Appends the text of a file to another. The source comes first, as for copy and unlike zu_File_append.
+ *  @return whether it was appended. */
 [[nodiscard]] inline bool append(const text& source, const text& destination)
 {
     return zu_File_append(destination.c_str(), source.c_str()) == 0;
 }
-/** Moves a file over the destination. */
+/** Moves a file over the destination. @return whether it was moved. */
 [[nodiscard]] inline bool move(const text& source, const text& destination)
 {
     return zu_File_move(source.c_str(), destination.c_str()) == 0;
@@ -126,6 +129,7 @@ inline std::size_t remove_all(const text& pattern)
 
 } // namespace zu::files
 
+/** Directories. */
 namespace zu::directories {
 
 /** Whether the host's file service says that a directory exists. */
@@ -138,7 +142,7 @@ namespace zu::directories {
 {
     return zu_Dir_create(path.c_str()) == 0;
 }
-/** Removes an empty directory. */
+/** Removes an empty directory. @return whether it was removed. */
 inline bool remove(const text& path)
 {
     return zu_Dir_delete(path.c_str()) == 0;
@@ -148,7 +152,7 @@ inline bool remove(const text& path)
 {
     return zu_Dir_deleteTree(path.c_str()) == 0;
 }
-/** Makes a directory the current one. */
+/** Makes a directory the current one. @return whether it is now. */
 [[nodiscard]] inline bool change(const text& path)
 {
     return zu_Dir_change(path.c_str()) == 0;

@@ -1,4 +1,5 @@
 /** @file zu_cpp/geometry.hpp
+ *  @ingroup cpp
  *  Points, vectors, quaternions and matrices with operators. Part of zu.hpp.
  *
  *      using namespace zu::operators;
@@ -13,7 +14,7 @@
  *  within a tolerance, and equal() says so.
  *
  *  Axes are right-handed with +Z up, angles in radians, lengths in the units of the caller's model. Operands that do
- * not fit, as matrices of other sizes or one that was moved from, throw std::invalid_argument; memory that is short
+ *  not fit, as matrices of other sizes or one that was moved from, throw std::invalid_argument; memory that is short
  *  std::bad_alloc. What has no result for some arguments gives std::optional.
  */
 #ifndef ZU_CPP_GEOMETRY_HPP
@@ -29,11 +30,12 @@
 
 namespace zu {
 
-/** Between degrees and radians. */
+/** An angle in radians. */
 [[nodiscard]] inline double radians(double degrees)
 {
     return zu_Cnv_dtor(degrees);
 }
+/** An angle in degrees. */
 [[nodiscard]] inline double degrees(double radians)
 {
     return zu_Cnv_rtod(radians);
@@ -42,13 +44,14 @@ namespace zu {
 /** The operators of the public records. */
 inline namespace operators {
 
-/** Moves a point. */
+/** A point moved by a vector. */
 [[nodiscard]] inline Point operator+(const Point& point, const Vector& way)
 {
     Point out{way.x, way.y, way.z};
     zu_Point_add(&out, &point, &out);
     return out;
 }
+/** Moves a point the other way. */
 [[nodiscard]] inline Point operator-(const Point& point, const Vector& way)
 {
     Point out{way.x, way.y, way.z};
@@ -65,6 +68,7 @@ inline namespace operators {
     return out;
 }
 
+/** The sum. */
 [[nodiscard]] inline Vector operator+(const Vector& a, const Vector& b)
 {
     Vector out{};
@@ -78,18 +82,21 @@ inline namespace operators {
     zu_Vector_subtract(&out, &b, &a);
     return out;
 }
+/** The vector in the opposite direction. */
 [[nodiscard]] inline Vector operator-(const Vector& vector)
 {
     Vector out{};
     zu_Vector_negate(&out, &vector);
     return out;
 }
+/** The vector with its length times the factor. */
 [[nodiscard]] inline Vector operator*(const Vector& vector, double factor)
 {
     Vector out{};
     zu_Vector_scale(&out, &vector, factor);
     return out;
 }
+/** The same. */
 [[nodiscard]] inline Vector operator*(double factor, const Vector& vector)
 {
     return vector * factor;
@@ -103,22 +110,27 @@ inline namespace operators {
     return out;
 }
 
+/** Moves the point. */
 inline Point& operator+=(Point& point, const Vector& way)
 {
     return point = point + way;
 }
+/** Moves the point the other way. */
 inline Point& operator-=(Point& point, const Vector& way)
 {
     return point = point - way;
 }
+/** Adds b to a. */
 inline Vector& operator+=(Vector& a, const Vector& b)
 {
     return a = a + b;
 }
+/** Subtracts b from a. */
 inline Vector& operator-=(Vector& a, const Vector& b)
 {
     return a = a - b;
 }
+/** Scales the vector. */
 inline Vector& operator*=(Vector& vector, double factor)
 {
     return vector = vector * factor;
@@ -128,22 +140,25 @@ inline Vector& operator*=(Vector& vector, double factor)
 
 /* Points and vectors ---------------------------------------------------------------------------------------------- */
 
-/** Whether two points, or vectors, differ by less than a tolerance along each axis. */
+/** Whether two points differ by less than a tolerance along each axis. */
 [[nodiscard]] inline bool equal(const Point& a, const Point& b, double tolerance = ZU_GEOMETRY_TOLERANCE)
 {
     return zu_Point_equalWithinTol(&a, &b, tolerance) == 1;
 }
+/** Whether two vectors differ by less than a tolerance along each axis. */
 [[nodiscard]] inline bool equal(const Vector& a, const Vector& b, double tolerance = ZU_GEOMETRY_TOLERANCE)
 {
     return zu_Vector_equalWithinTol(&a, &b, tolerance) == 1;
 }
 
+/** The distance between two points. */
 [[nodiscard]] inline double distance(const Point& a, const Point& b)
 {
     double out = 0.0;
     zu_Point_distance(&out, &a, &b);
     return out;
 }
+/** The point half-way between two points. */
 [[nodiscard]] inline Point midpoint(const Point& a, const Point& b)
 {
     Point out{};
@@ -164,12 +179,14 @@ inline Vector& operator*=(Vector& vector, double factor)
     return zu_Point_intersectPointWithinTol(&out, &p1, &p2, &q1, &q2, tolerance) == 1 ? std::optional(out)
                                                                                       : std::nullopt;
 }
+/** Whether three points lie on a line; what the tolerance bounds says zu_Point_colinearWithinTol. */
 [[nodiscard]] inline bool colinear(const Point& a, const Point& b, const Point& c,
                                    double tolerance = ZU_GEOMETRY_TOLERANCE)
 {
     return zu_Point_colinearWithinTol(&a, &b, &c, tolerance) == 1;
 }
 
+/** The length of a vector. */
 [[nodiscard]] inline double length(const Vector& vector)
 {
     double out = 0.0;
@@ -182,12 +199,14 @@ inline Vector& operator*=(Vector& vector, double factor)
     Vector out{};
     return zu_Vector_copyNormalize(&out, &vector) == 1 ? std::optional(out) : std::nullopt;
 }
+/** The dot product. */
 [[nodiscard]] inline double dot(const Vector& a, const Vector& b)
 {
     double out = 0.0;
     zu_Vector_dotProduct(&out, &a, &b);
     return out;
 }
+/** The cross product a x b. */
 [[nodiscard]] inline Vector cross(const Vector& a, const Vector& b)
 {
     Vector out{};
@@ -200,10 +219,12 @@ inline Vector& operator*=(Vector& vector, double factor)
     double out = 0.0;
     return zu_Vector_angle(&out, &a, &b) == 1 ? std::optional(out) : std::nullopt;
 }
+/** Whether two vectors have the same direction or opposite ones: a x b is shorter than the tolerance. */
 [[nodiscard]] inline bool parallel(const Vector& a, const Vector& b, double tolerance = ZU_GEOMETRY_TOLERANCE)
 {
     return zu_Vector_parallelWithinTolerance(&a, &b, tolerance) == 1;
 }
+/** Whether two vectors stand at a right angle: their dot product is less than the tolerance away from 0. */
 [[nodiscard]] inline bool orthogonal(const Vector& a, const Vector& b, double tolerance = ZU_GEOMETRY_TOLERANCE)
 {
     return zu_Vector_orthogonalWithinTolerance(&a, &b, tolerance) == 1;
@@ -218,6 +239,7 @@ inline Vector& operator*=(Vector& vector, double factor)
     zu_Quaternion_getConjugate(&out, &quaternion);
     return out;
 }
+/** The length of a quaternion; 1 for a rotation. */
 [[nodiscard]] inline double length(const Quaternion& quaternion)
 {
     double out = 0.0;
@@ -283,6 +305,7 @@ public:
         for (const double value : values)
             zu_Ntuple_setElement(get(), index++, value);
     }
+    /** Takes over an n-tuple from the library; null holds nothing. */
     ntuple(adopt_t, Ntuple* record) noexcept : owner(adopt, record) {}
 
     /** The numbers themselves. */
@@ -292,9 +315,12 @@ public:
             return {};
         return {get()->elements, static_cast<std::size_t>(get()->count)};
     }
+    /** How many numbers there are; 0 when nothing is held. */
     std::size_t size() const noexcept { return values().size(); }
+    /** A copy of its own. */
     [[nodiscard]] ntuple clone() const { return ntuple(values()); }
 
+    /** The sum, number by number. Throws std::invalid_argument for different counts. */
     [[nodiscard]] friend ntuple operator+(const ntuple& a, const ntuple& b)
     {
         ntuple out = a.clone();
@@ -308,6 +334,7 @@ public:
         detail::fits(zu_Ntuple_subtract(out.get(), a.get(), b.get()));
         return out;
     }
+    /** Every number times the factor. */
     [[nodiscard]] friend ntuple operator*(const ntuple& tuple, double factor)
     {
         ntuple out = tuple.clone();
@@ -315,6 +342,7 @@ public:
         return out;
     }
 };
+/** The sum of the products, number by number. Throws std::invalid_argument for different counts. */
 [[nodiscard]] inline double dot(const ntuple& a, const ntuple& b)
 {
     double out = 0.0;
@@ -328,6 +356,7 @@ class matrix : public detail::owner<Matrix, detail::matrix_family>
 public:
     /** Zeros with ones on the diagonal. */
     matrix(std::int32_t rows, std::int32_t columns) : matrix(adopt, detail::made(zu_Matrix_create(rows, columns))) {}
+    /** Takes over a matrix from the library; null holds nothing. */
     matrix(adopt_t, Matrix* record) noexcept : owner(adopt, record) {}
 
     /** The number of rows; 0 for a matrix without columns. */
@@ -337,6 +366,7 @@ public:
         zu_Matrix_numberRows(&out, get());
         return out;
     }
+    /** The number of columns. */
     std::int32_t columns() const
     {
         std::int32_t out = 0;
@@ -350,16 +380,19 @@ public:
         detail::fits(zu_Matrix_getElement(&out, get(), row, column));
         return out;
     }
+    /** Sets an element. Throws std::invalid_argument for a place outside. */
     void set(std::int32_t row, std::int32_t column, double value)
     {
         detail::fits(zu_Matrix_setElement(get(), row, column, value));
     }
+    /** A copy of its own. */
     [[nodiscard]] matrix clone() const
     {
         matrix out(rows(), columns());
         detail::fits(zu_Matrix_copy(out.get(), get()));
         return out;
     }
+    /** The matrix with rows and columns exchanged. */
     [[nodiscard]] matrix transposed() const
     {
         matrix out(columns(), rows());
@@ -367,6 +400,7 @@ public:
         return out;
     }
 
+    /** The sum. Throws std::invalid_argument for different sizes. */
     [[nodiscard]] friend matrix operator+(const matrix& a, const matrix& b)
     {
         matrix out(a.rows(), a.columns());
@@ -380,6 +414,7 @@ public:
         detail::fits(zu_Matrix_subtract(out.get(), a.get(), b.get()));
         return out;
     }
+    /** The matrix product. Throws std::invalid_argument unless a has as many columns as b has rows. */
     [[nodiscard]] friend matrix operator*(const matrix& a, const matrix& b)
     {
         matrix out(a.rows(), b.columns());
@@ -389,6 +424,7 @@ public:
         detail::fits(done ? 1 : 0);
         return out;
     }
+    /** Every element times the factor. */
     [[nodiscard]] friend matrix operator*(const matrix& a, double factor)
     {
         matrix out(a.rows(), a.columns());
@@ -403,44 +439,47 @@ class rotation : public detail::owner<RotMatrix, detail::rotation_family>
 public:
     /** No rotation. */
     rotation() : rotation(adopt, detail::made(zu_RotMatrix_create())) {}
+    /** The rotation of a quaternion of length 1. */
     explicit rotation(const Quaternion& quaternion) : rotation()
     {
         detail::fits(zu_RotMatrix_fromQuaternion(get(), &quaternion));
     }
+    /** Takes over a rotation matrix from the library; null holds nothing. */
     rotation(adopt_t, RotMatrix* record) noexcept : owner(adopt, record) {}
 
-    /** By an angle about Z. */
+    /** The rotation by an angle about Z. */
     [[nodiscard]] static rotation about_z(double angle)
     {
         rotation out;
         detail::fits(zu_RotMatrix_fromAngle(out.get(), angle));
         return out;
     }
-    /** By an angle about an axis of any length, see zu_RotMatrix_fromRotAxisAndAngle. */
+    /** The rotation by an angle about an axis of any length, see zu_RotMatrix_fromRotAxisAndAngle. */
     [[nodiscard]] static std::optional<rotation> about(const Vector& axis, double angle)
     {
         rotation out;
         return when(zu_RotMatrix_fromRotAxisAndAngle(out.get(), &axis, angle), out);
     }
-    /** That turns one direction into another on the shortest way. */
+    /** The rotation that turns one direction into another on the shortest way, see zu_Quaternion_fromVectors. */
     [[nodiscard]] static std::optional<rotation> between(const Vector& from, const Vector& to)
     {
         rotation out;
         return when(zu_RotMatrix_fromVectors(out.get(), nullptr, &from, &to), out);
     }
-    /** Of a local system: X runs from the origin to on_x, and in_xy lies on the side of +Y. */
+    /** The axes of a local system: X runs from the origin to on_x, and in_xy lies on the side of +Y. */
     [[nodiscard]] static std::optional<rotation> of_system(const Point& origin, const Point& on_x, const Point& in_xy)
     {
         rotation out;
         return when(zu_RotMatrix_from3Points(out.get(), &origin, &on_x, &in_xy), out);
     }
-    /** Of three vectors as the columns, or as the rows. (The flat zu_RotMatrix_fromRowVectors stores columns.) */
+    /** Of three vectors as the columns, taken as they are. */
     [[nodiscard]] static rotation of_columns(const Vector& x, const Vector& y, const Vector& z)
     {
         rotation out;
         zu_RotMatrix_fromColumnVectors(out.get(), &x, &y, &z);
         return out;
     }
+    /** Of three vectors as the rows, taken as they are. (The flat zu_RotMatrix_fromRowVectors stores columns.) */
     [[nodiscard]] static rotation of_rows(const Vector& x, const Vector& y, const Vector& z)
     {
         rotation out;
@@ -450,25 +489,28 @@ public:
         return out;
     }
 
-    /** An element, a row, a column. Throw std::invalid_argument for an index outside 0 to 2. */
+    /** An element. Throws std::invalid_argument for an index outside 0 to 2, as all that take one. */
     double operator()(std::int32_t row, std::int32_t column) const
     {
         double out = 0.0;
         detail::fits(zu_RotMatrix_getElement(&out, get(), row, column));
         return out;
     }
+    /** A row. */
     Vector row(std::int32_t index) const
     {
         Vector out{};
         detail::fits(zu_RotMatrix_getRow(&out, get(), index));
         return out;
     }
+    /** A column. */
     Vector column(std::int32_t index) const
     {
         Vector out{};
         detail::fits(zu_RotMatrix_getColumn(&out, get(), index));
         return out;
     }
+    /** Sets an element; nothing keeps the matrix a rotation. */
     void set(std::int32_t row, std::int32_t column, double value)
     {
         detail::fits(zu_RotMatrix_setElement(get(), row, column, value));
@@ -478,17 +520,20 @@ public:
     {
         detail::fits(zu_RotMatrix_setRowValues(get(), index, values.x, values.y, values.z));
     }
+    /** Sets a column. */
     void set_column(std::int32_t index, const Vector& values)
     {
         detail::fits(zu_RotMatrix_setColumn(get(), index, &values));
     }
 
+    /** A copy of its own. */
     [[nodiscard]] rotation clone() const
     {
         rotation out;
         detail::fits(zu_RotMatrix_copy(out.get(), get()));
         return out;
     }
+    /** The transpose, which is the inverse of a rotation. */
     [[nodiscard]] rotation inverse() const
     {
         rotation out;
@@ -503,12 +548,13 @@ public:
         detail::fits(zu_RotMatrix_multiply(out.get(), a.get(), b.get()));
         return out;
     }
-    /** Turned about the origin. */
+    /** The point turned about the origin. */
     [[nodiscard]] friend Point operator*(const rotation& turn, Point point)
     {
         detail::fits(zu_RotMatrix_rotatePoint(&point, turn.get()));
         return point;
     }
+    /** The vector turned. */
     [[nodiscard]] friend Vector operator*(const rotation& turn, Vector vector)
     {
         detail::fits(zu_RotMatrix_rotateVector(&vector, turn.get()));
@@ -534,22 +580,24 @@ class transform : public detail::owner<TMatrix, detail::transform_family>
 public:
     /** Leaves everything in its place. */
     transform() : transform(adopt, detail::made(zu_TMatrix_create())) {}
+    /** Turns about the origin, then moves by the way from the origin to the point given. */
     transform(const rotation& turn, const Point& origin) : transform()
     {
         set_rotation(turn);
         set_origin(origin);
     }
+    /** Takes over a transformation matrix from the library; null holds nothing. */
     transform(adopt_t, TMatrix* record) noexcept : owner(adopt, record) {}
 
-    /** That moves one point to another. */
+    /** The transformation that moves one point to another. */
     [[nodiscard]] static transform translation(const Point& from, const Point& to)
     {
         transform out;
         detail::fits(zu_TMatrix_createForTranslation(out.get(), &from, &to));
         return out;
     }
-    /** That carries what is placed in one system to the same place in another, see zu_TMatrix_createFromUCS: origin, a
-     *  point on X and a point in XY of each. */
+    /** The transformation that carries what is placed in one system to the same place in another: origin, a point on X
+     *  and a point in XY of each, see zu_TMatrix_createFromUCS. */
     [[nodiscard]] static transform between_systems(const Point& o1, const Point& x1, const Point& y1, const Point& o2,
                                                    const Point& x2, const Point& y2)
     {
@@ -558,21 +606,26 @@ public:
         return out;
     }
 
+    /** Where it puts the origin. */
     Point origin() const
     {
         Point out{};
         detail::fits(zu_TMatrix_getOrigin(&out, get()));
         return out;
     }
+    /** A copy of the rotation. */
     rotation turn() const
     {
         rotation out;
         detail::fits(zu_TMatrix_getRMatrix(out.get(), get()));
         return out;
     }
+    /** Sets where it puts the origin; the rotation stays. */
     void set_origin(const Point& origin) { detail::fits(zu_TMatrix_setOrigin(get(), &origin)); }
+    /** Sets the rotation; the origin stays. */
     void set_rotation(const rotation& turn) { detail::fits(zu_TMatrix_setRMatrix(get(), turn.get())); }
 
+    /** A copy of its own. */
     [[nodiscard]] transform clone() const
     {
         transform out;
@@ -586,6 +639,7 @@ public:
         detail::fits(zu_Matrix_multiply(out.get(), a.get(), b.get()));
         return out;
     }
+    /** The point turned and moved. */
     [[nodiscard]] friend Point operator*(const transform& move, const Point& point)
     {
         detail::fits(move.get() == nullptr ? 0 : 1);
@@ -648,12 +702,14 @@ public:
         return list;
     }
 
-    /** Appends a copy, or puts it in front. Current: unchanged. */
+    /** Appends a copy. Current: unchanged. */
     void push_back(const triple& value) { inserted(Family::insEnd(this->get(), value) == 1, this->get() != nullptr); }
+    /** Puts a copy in front. Current: unchanged. */
     void push_front(const triple& value)
     {
         inserted(Family::insStart(this->get(), value) == 1, this->get() != nullptr);
     }
+    /** Empties the list. */
     void clear() { Family::delAll(this->get()); }
     /** A copy; its current element is the first. */
     [[nodiscard]] triple_list copy() const { return triple_list(adopt, made(Family::copy(this->get()))); }
@@ -667,9 +723,11 @@ public:
 
 } // namespace detail
 
-/** A list of points. */
+/** An owner of a list of points, and a range of them. An empty one, one that is taken over, or of({...}); push_back and
+ *  push_front take copies, clear empties it, copy copies it (the first element is current then), and closest_to(point)
+ *  finds the element that is nearest, none in an empty list. */
 using point_list = detail::triple_list<detail::point_list_family>;
-/** A list of vectors. */
+/** An owner of a list of vectors, with the operations of zu::point_list. */
 using vector_list = detail::triple_list<detail::vector_list_family>;
 
 } // namespace zu

@@ -1,4 +1,5 @@
 /** @file zu_cpp/lists.hpp
+ *  @ingroup cpp
  *  Lists: ranges over them, and owners of generic, string and integer lists. Part of zu.hpp.
  *
  *      auto names = zu::string_list::split("pipe; elbow; tee", ";");
@@ -6,8 +7,8 @@
  *          std::cout << zu::to_utf8(name) << '\n';
  *
  *  Ranges walk the nodes of a list and leave its cursor alone. They are valid as standard lists are: an iterator as
- * long as its element. Operations of the owners are those of the flat families; one whose flat operation moves the
- * cursor says so.
+ *  long as its element. Operations of the owners are those of the flat families; one whose flat operation moves the
+ *  cursor says so.
  */
 #ifndef ZU_CPP_LISTS_HPP
 #define ZU_CPP_LISTS_HPP
@@ -27,30 +28,35 @@ namespace zu {
 /** Whether letters of different case are different. */
 enum class letter_case : std::int32_t
 {
-    exact = 0,
-    ignore = 1
+    exact = 0, /**< they are */
+    ignore = 1 /**< they are not */
 };
 
-/** A list that somebody else owns, as a range of constant elements. Element says how the data of a node are read. A
- * view of nothing is empty. */
+/** A list that somebody else owns, as a range of constant elements. Element says how the data of a node are read; a
+ *  view of nothing is empty. */
 template <class Element>
 class list_view
 {
 public:
+    /** Walks the nodes of a list, both ways; from its end too. Valid as long as its element. */
     class iterator
     {
     public:
-        using value_type = typename Element::value_type;
-        using reference = typename Element::reference;
-        using difference_type = std::ptrdiff_t;
-        using pointer = void;
-        using iterator_concept = std::bidirectional_iterator_tag;
+        using value_type = typename Element::value_type;          /**< an element by itself */
+        using reference = typename Element::reference;            /**< what reading gives; may be a value */
+        using difference_type = std::ptrdiff_t;                   /**< as in every iterator */
+        using pointer = void;                                     /**< elements need not lie in memory */
+        using iterator_concept = std::bidirectional_iterator_tag; /**< it goes both ways */
+        /** For algorithms older than C++20, which want references. */
         using iterator_category = std::conditional_t<std::is_reference_v<reference>, std::bidirectional_iterator_tag,
                                                      std::input_iterator_tag>;
 
+        /** Stands nowhere; to be assigned to. */
         iterator() noexcept = default;
+        /** Stands on a node of a list; a null node is the end. */
         iterator(const LnkList* whole, const LnkNode* at) noexcept : list(whole), node(at) {}
 
+        /** The element. */
         reference operator*() const { return Element::read(node->data); }
         /** The element, or a holder of it where elements are made on reading. */
         auto operator->() const
@@ -60,28 +66,33 @@ public:
             else
                 return holder{**this};
         }
+        /** Moves to the next element, from the last one to the end. */
         iterator& operator++() noexcept
         {
             node = node->next;
             return *this;
         }
+        /** The same; gives the old place. */
         iterator operator++(int) noexcept
         {
             const iterator before = *this;
             ++*this;
             return before;
         }
+        /** Moves to the element before, from the end to the last one. */
         iterator& operator--() noexcept
         {
             node = node == nullptr ? list->last : node->prev;
             return *this;
         }
+        /** The same; gives the old place. */
         iterator operator--(int) noexcept
         {
             const iterator before = *this;
             --*this;
             return before;
         }
+        /** Whether both stand on the same element, or both at an end. */
         friend bool operator==(const iterator& a, const iterator& b) noexcept { return a.node == b.node; }
 
     private:
@@ -93,17 +104,25 @@ public:
         const LnkList* list = nullptr;
         const LnkNode* node = nullptr;
     };
+    /** The same: elements cannot be changed through a view. */
     using const_iterator = iterator;
 
+    /** A view of nothing. */
     list_view() noexcept = default;
+    /** A view of a list whose elements fit; null is nothing. */
     explicit list_view(LnkList* borrowed) noexcept : list(borrowed) {}
 
+    /** The first element; the end when there is none. */
     iterator begin() const noexcept { return iterator(list, list == nullptr ? nullptr : list->first); }
+    /** The end, behind the last element. */
     iterator end() const noexcept { return iterator(list, nullptr); }
+    /** The number of elements. */
     std::size_t size() const { return zu_LnkList_length(list); }
+    /** Whether there is no element. */
     bool empty() const noexcept { return list == nullptr || list->first == nullptr; }
-    /** The first and the last element; there must be one. */
+    /** The first element; there must be one. */
     decltype(auto) front() const { return *begin(); }
+    /** The last element; there must be one. */
     decltype(auto) back() const { return *--end(); }
     /** @return the list for a flat call; may be null. */
     LnkList* get() const noexcept { return list; }
@@ -139,14 +158,13 @@ struct integer_element
     static reference read(void* data) noexcept { return static_cast<const IntListNode*>(data)->value; }
 };
 
-/** The node of a string list holds one thing, the pointer to its text. */
 struct string_element
 {
     using value_type = wide_view;
     using reference = wide_view;
     static reference read(void* data) noexcept
     {
-        const zu_wchar* const text = data == nullptr ? nullptr : *static_cast<zu_wchar* const*>(data);
+        const zu_wchar* const text = data == nullptr ? nullptr : static_cast<const StrListNode*>(data)->string;
         return text == nullptr ? wide_view() : wide_view(text);
     }
 };
@@ -169,8 +187,9 @@ public:
     std::size_t size() const { return view().size(); }
     /** Whether there is no element, or nothing is held. */
     bool empty() const noexcept { return view().empty(); }
-    /** The first and the last element; there must be one. */
+    /** The first element; there must be one. */
     decltype(auto) front() const { return view().front(); }
+    /** The last element; there must be one. */
     decltype(auto) back() const { return view().back(); }
 
 protected:
@@ -228,10 +247,12 @@ template <class T>
 class list : public detail::generic_list<T, detail::borrowing_family<T>>
 {
 public:
+    /** Those of an empty list, and of one taken over (zu::adopt). */
     using detail::generic_list<T, detail::borrowing_family<T>>::generic_list;
 
-    /** Appends, or puts in front. Throws std::bad_alloc without memory. Current: unchanged. */
+    /** Appends. Throws std::bad_alloc without memory. Current: unchanged. */
     void push_back(T* data) { this->insert_last(data); }
+    /** Puts in front. Throws std::bad_alloc without memory. Current: unchanged. */
     void push_front(T* data) { this->insert_first(data); }
 };
 
@@ -240,14 +261,16 @@ template <class T>
 class owning_list : public detail::generic_list<T, detail::deleting_family<T>>
 {
 public:
+    /** Those of an empty list, and of one taken over (zu::adopt), whose data it deletes in the end. */
     using detail::generic_list<T, detail::deleting_family<T>>::generic_list;
 
-    /** Appends, or puts in front. Throws std::bad_alloc without memory; data is deleted then. Current: unchanged. */
+    /** Appends. Throws std::bad_alloc without memory; data is deleted then. Current: unchanged. */
     void push_back(std::unique_ptr<T> data)
     {
         this->insert_last(data.get());
         static_cast<void>(data.release());
     }
+    /** Puts in front. Throws std::bad_alloc without memory; data is deleted then. Current: unchanged. */
     void push_front(std::unique_ptr<T> data)
     {
         this->insert_first(data.get());
@@ -360,10 +383,12 @@ public:
 
 } // namespace zu
 
-/** Iterators outlive the view, and views are cheap to copy. */
+/** @cond */
+// Iterators outlive the view, and views are cheap to copy.
 template <class Element>
 inline constexpr bool std::ranges::enable_borrowed_range<zu::list_view<Element>> = true;
 template <class Element>
 inline constexpr bool std::ranges::enable_view<zu::list_view<Element>> = true;
+/** @endcond */
 
 #endif

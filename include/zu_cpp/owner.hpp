@@ -1,5 +1,15 @@
 /** @file zu_cpp/owner.hpp
+ *  @ingroup cpp
  *  What all owners of the C++ interface have in common. Part of zu.hpp.
+ *
+ *      zu::string_list names(zu::adopt, zu_StrList_fromDelimitedString(ZU_W("pipe; elbow"), ZU_W(";")));
+ *      if (names)                                  // false when nothing is held
+ *          zu_StrList_sort(names.get());           // lent: a flat call on what the owner keeps
+ *      StrList* list = names.release();            // handed out: zu_StrList_destroy(list) is up to the caller now
+ *      names.reset(list);                          // and taken over again
+ *
+ *  Owners move and do not copy. One that was moved from holds nothing; an owner that goes out of scope releases what it
+ *  holds with the destroy operation of the family.
  */
 #ifndef ZU_CPP_OWNER_HPP
 #define ZU_CPP_OWNER_HPP
@@ -17,6 +27,7 @@ struct adopt_t
 {
     explicit adopt_t() = default;
 };
+/** The mark itself. */
 inline constexpr adopt_t adopt{};
 
 namespace detail {

@@ -1,4 +1,5 @@
 /** @file zu_cpp/settings.hpp
+ *  @ingroup cpp
  *  INI files, the configuration file, session variables, aliases and the expansion of references. Part of zu.hpp.
  *
  *      zu::ini file("D:\\plant\\pipes.ini");
@@ -23,8 +24,8 @@ namespace zu {
 /** Whether %NAME% references to aliases in values are replaced. */
 enum class references
 {
-    keep,
-    expand
+    keep,  /**< they stay as they are */
+    expand /**< they are */
 };
 
 /** An INI file, known by its path; nothing is open. Reads and writes go through the host's cache unless a comment says
@@ -32,6 +33,7 @@ enum class references
 class ini
 {
 public:
+    /** Keeps a copy of the path. The file need not exist, and is not looked at yet. */
     explicit ini(const text& path) : file(path.view()) {}
 
     /** The path. */

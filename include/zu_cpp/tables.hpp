@@ -1,4 +1,5 @@
 /** @file zu_cpp/tables.hpp
+ *  @ingroup cpp
  *  Tables over ODBC: rows in turn, fields by name, reading and writing. Part of zu.hpp.
  *
  *      zu::table pipes("C:\\plant\\pipes.db3");
@@ -18,21 +19,30 @@
 namespace zu {
 
 /** What became of a request to a table. */
-enum class [[nodiscard]] row_status : std::int32_t{done = ZU_DB_DONE, failed = ZU_DB_FAILED, no_row = ZU_DB_NO_ROW};
+enum class [[nodiscard]] row_status : std::int32_t{
+    done = ZU_DB_DONE,     /**< done */
+    failed = ZU_DB_FAILED, /**< an invalid handle or argument, no memory, or the driver failed */
+    no_row = ZU_DB_NO_ROW  /**< there is no such row */
+};
 
 /** A field of a row, which stays the owner. */
 class column
 {
 public:
+    /** The column of a record, which must not be null. */
     explicit column(const DbFldNode* record) noexcept : node(record) {}
 
+    /** The name; borrowed from the row. */
     wide_view name() const noexcept { return wide_view(node->name); }
     /** The value as text, whole; empty when there is none. */
     wide_view value() const noexcept { return node->value == nullptr ? wide_view() : wide_view(node->value); }
+    /** Whether there is a value, and be it an empty one. */
     bool has_value() const noexcept { return node->value != nullptr; }
     /** The type, ZU_DBFLD_TEXT and its companions. */
     char type() const noexcept { return static_cast<char>(node->type); }
+    /** The width that the column is declared with. */
     std::uint32_t width() const noexcept { return node->width; }
+    /** The number of decimals that the column is declared with. */
     std::uint32_t precision() const noexcept { return node->precision; }
     /** @return the record; never null. */
     const DbFldNode* get() const noexcept { return node; }
@@ -89,7 +99,7 @@ public:
         return found ? found->value() : wide_view();
     }
     /** The value of a column as std::int32_t, double, zu::wide_string or std::string; a number is the one at the front
-     * of the text, 0 where there is none. @return none when there is no such column, or its value is empty. */
+     *  of the text, 0 where there is none. @return none when there is no such column, or its value is empty. */
     template <class T>
     [[nodiscard]] std::optional<T> get(const text& name) const
     {
@@ -139,33 +149,42 @@ public:
 class row_range
 {
 public:
+    /** Stands on the row that the range has read: iterators of one range stand on the same row. */
     class iterator
     {
     public:
-        using value_type = row;
-        using reference = row&;
-        using difference_type = std::ptrdiff_t;
-        using pointer = row*;
-        using iterator_concept = std::input_iterator_tag;
-        using iterator_category = std::input_iterator_tag;
+        using value_type = row;                            /**< what it stands on */
+        using reference = row&;                            /**< the row of the range, which may be moved away */
+        using difference_type = std::ptrdiff_t;            /**< as in every iterator */
+        using pointer = row*;                              /**< as in every iterator */
+        using iterator_concept = std::input_iterator_tag;  /**< it reads once */
+        using iterator_category = std::input_iterator_tag; /**< it reads once */
 
+        /** Stands nowhere, which counts as the end. */
         iterator() noexcept = default;
+        /** Stands on the row that a range has read last. */
         explicit iterator(row_range* rows) noexcept : range(rows) {}
 
+        /** The row. */
         row& operator*() const noexcept { return range->current; }
+        /** The row, for a member of it. */
         row* operator->() const noexcept { return &range->current; }
+        /** Reads the next row. */
         iterator& operator++()
         {
             range->read(zu_Db_nextRec(range->table, 0));
             return *this;
         }
+        /** The same. */
         void operator++(int) { ++*this; }
+        /** Whether there is no row left. */
         bool operator==(std::default_sentinel_t) const noexcept { return range == nullptr || range->ended; }
 
     private:
         row_range* range = nullptr;
     };
 
+    /** The rows of an open table, which stays the caller's. Reads nothing yet. */
     explicit row_range(std::int32_t handle) noexcept : table(handle), current(adopt, nullptr) {}
 
     /** Reads the table anew and stands on its first row. */
@@ -174,6 +193,7 @@ public:
         read(zu_Db_topRec(table, 0));
         return iterator(this);
     }
+    /** The end, at which an iterator has no row left. */
     std::default_sentinel_t end() const noexcept { return std::default_sentinel; }
 
 private:
@@ -194,16 +214,19 @@ private:
 };
 
 /** An index tag of a table: tells seek which fields to look at. Keeps its texts, as the library does not, and is
- * removed at the end. */
+ *  removed at the end. */
 class table_tag
 {
 public:
+    /** Registers a tag for an open table (zu_Db_createNdx); test the object for success. */
     table_tag(std::int32_t table, const text& name, const text& expression)
         : texts(new both{wide_string(name.view()), wide_string(expression.view())}),
           number(zu_Db_createNdx(table, texts->name.c_str(), texts->expression.c_str()))
     {
     }
+    /** Takes the tag over; the other has none. */
     table_tag(table_tag&& other) noexcept : texts(std::move(other.texts)), number(std::exchange(other.number, none)) {}
+    /** Removes its own tag and takes the other over, which has none afterwards. */
     table_tag& operator=(table_tag&& other) noexcept
     {
         table_tag moved(std::move(other));
@@ -211,6 +234,7 @@ public:
         std::swap(number, moved.number);
         return *this;
     }
+    /** Removes the tag. */
     ~table_tag()
     {
         if (number != none)
@@ -219,6 +243,7 @@ public:
 
     /** The number of the tag; -1 when it could not be registered. */
     std::int32_t get() const noexcept { return number; }
+    /** Whether the tag is registered. */
     explicit operator bool() const noexcept { return number != none; }
 
 private:
@@ -240,12 +265,15 @@ public:
     explicit table(const text& path) : handle(zu_Db_openDb(path.c_str())) {}
     /** Takes over a handle from the library; -1 is none. */
     table(adopt_t, std::int32_t open) noexcept : handle(open) {}
+    /** Takes the table over; the other has none. */
     table(table&& other) noexcept : handle(other.release()) {}
+    /** Closes its own table and takes the other over, which has none afterwards. */
     table& operator=(table&& other) noexcept
     {
         reset(other.release());
         return *this;
     }
+    /** Closes the table. */
     ~table() { reset(); }
 
     /** Whether the table is open. */
@@ -278,8 +306,11 @@ public:
     {
         return handle == none ? row_status::failed : static_cast<row_status>(zu_Db_topRec(handle, 0));
     }
+    /** Moves to the next row. Behind the last one: no_row. */
     row_status next() const { return static_cast<row_status>(zu_Db_nextRec(handle, 0)); }
+    /** Moves to the row before. In front of the first one: no_row. */
     row_status previous() const { return static_cast<row_status>(zu_Db_prevRec(handle, 0)); }
+    /** Moves to the last row. Done, and without an effect, also where no row was looked for before (zu_Db_botRec). */
     row_status last() const { return static_cast<row_status>(zu_Db_botRec(handle, 0)); }
     /** Whether there is a row to read. */
     [[nodiscard]] bool has_row() const { return zu_Db_eof(handle) == 0; }
@@ -297,11 +328,12 @@ public:
     {
         return table_tag(handle, name, expression);
     }
-    /** Moves to a row in which a field equals a text, see zu_Db_seekStr: any field, or those of a tag. */
+    /** Moves to a row in which any field equals a text, see zu_Db_seekStr. */
     row_status seek(const text& value) const
     {
         return static_cast<row_status>(zu_Db_seekStr(value.c_str(), handle, 0));
     }
+    /** The same in the fields of a tag. */
     row_status seek(const text& value, const table_tag& tag) const
     {
         return static_cast<row_status>(zu_Db_seekStr(value.c_str(), handle, tag.get()));

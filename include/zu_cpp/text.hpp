@@ -1,5 +1,10 @@
 /** @file zu_cpp/text.hpp
+ *  @ingroup cpp
  *  Text between C++ and the library: UTF-8 and wide strings in, UTF-8 and wide strings out. Part of zu.hpp.
+ *
+ *      zu::session::set("FLUID", "K\u00FChlwasser");      // UTF-8 here, u"..." and L"..." as well
+ *      if (auto fluid = zu::session::get("FLUID"))        // a zu::wide_string
+ *          std::cout << zu::to_utf8(*fluid) << '\n';
  */
 #ifndef ZU_CPP_TEXT_HPP
 #define ZU_CPP_TEXT_HPP
@@ -129,9 +134,9 @@ std::basic_string<Byte> encode_utf8(wide_view text)
 /** Wide text of any text.
  *
  *  Text of char and char8_t is UTF-8. A byte that is no part of valid UTF-8 becomes one of the lone surrogates U+DC80
- * to U+DCFF, the rule of the library's own files, and to_utf8 makes the byte of it again. Text of char16_t is taken as
- * it is, and so is one of wchar_t where that has 16 bits; where it has 32, characters beyond U+FFFF become pairs, and
- *  values that are no characters U+FFFD. */
+ *  to U+DCFF, the rule of the library's own files, and to_utf8 makes the byte of it again. Text of char16_t is taken
+ *  as it is, and so is one of wchar_t where that has 16 bits; where it has 32, and in text of char32_t, characters
+ *  beyond U+FFFF become pairs, and values that are no characters U+FFFD. */
 template <detail::text_unit Unit>
 wide_string to_wide(std::basic_string_view<Unit> text)
 {
@@ -218,12 +223,14 @@ inline wide_string text_or_empty(const zu_wchar* text)
 class owned_text : public detail::owner<zu_wchar, detail::text_family>
 {
 public:
+    /** Holds nothing. */
     owned_text() noexcept = default;
     /** Takes over a text from the library; null holds nothing. */
     owned_text(adopt_t, zu_wchar* text) noexcept : owner(adopt, text) {}
 
     /** @return a view of it; empty when nothing is held. */
     wide_view view() const noexcept { return get() == nullptr ? wide_view() : wide_view(get()); }
+    /** The same as view(). */
     operator wide_view() const noexcept { return view(); }
     /** A copy. */
     wide_string wide() const { return wide_string(view()); }
@@ -233,14 +240,16 @@ public:
 
 /** An argument: any text, as the terminated wide text that a call takes.
  *
- *  Made implicitly of literals, views and strings of char and char8_t (UTF-8), char16_t and wchar_t; the rule is that
- * of to_wide. Text that is terminated and of the library's own units is passed on as it stands, all other is converted
- * or copied. So a text lives no longer than what it was made of: it is for parameters and not to be kept. nullptr is
- * the null text. The library ends a text at its first zero unit, also one that lies inside a view. */
+ *  Made implicitly of literals, views and strings of char and char8_t (UTF-8), char16_t, char32_t and wchar_t; the
+ *  rule is that of to_wide. Text that is terminated and of the library's own units is passed on as it stands, all other
+ *  is converted or copied. So a text lives no longer than what it was made of: it is for parameters and not to be kept.
+ *  nullptr is the null text. The library ends a text at its first zero unit, also one that lies inside a view. */
 class text
 {
 public:
+    /** The null text. */
     text(std::nullptr_t) noexcept : units(nullptr) {}
+    /** A terminated text or a literal; null gives the null text. */
     template <detail::text_unit Unit>
     text(const Unit* terminated)
     {
@@ -249,6 +258,7 @@ public:
         else
             units = terminated == nullptr ? nullptr : keep(to_wide(terminated));
     }
+    /** A string. */
     template <detail::text_unit Unit>
     text(const std::basic_string<Unit>& string)
     {
@@ -257,10 +267,12 @@ public:
         else
             units = keep(to_wide(string));
     }
+    /** A view, which need not be terminated: it is always copied. */
     template <detail::text_unit Unit>
     text(std::basic_string_view<Unit> view) : units(keep(to_wide(view)))
     {
     }
+    /** A text of the library, passed on as it stands; the null text when nothing is held. */
     text(const owned_text& string) noexcept : units(string.get()) {}
     text(const text&) = delete;
     text& operator=(const text&) = delete;

@@ -1,4 +1,5 @@
 /** @file zu_cpp/tree.hpp
+ *  @ingroup cpp
  *  Trees of named nodes with data. Part of zu.hpp.
  *
  *      zu::owning_tree<Pipe> plant;
@@ -80,6 +81,7 @@ template <class T, bool Owning>
 class tree_node
 {
 public:
+    /** The node of a record, which must not be null. */
     explicit tree_node(TreeNode* record) noexcept : node(record) {}
 
     /** The name; empty for a node without one. */
@@ -90,6 +92,7 @@ public:
     }
     /** The data; may be null. */
     T* data() const { return static_cast<T*>(zu_TreeNode_getData(node)); }
+    /** The node above; none for a root. */
     std::optional<tree_node> parent() const { return optional(zu_TreeNode_getParent(node)); }
     /** The children in order, as a range of nodes. */
     auto children() const
@@ -103,9 +106,12 @@ public:
     {
         return optional(zu_TreeNode_search(node, path.c_str(), occurrence));
     }
-    /** Appends a child. Throws std::bad_alloc without memory. */
+    /** Appends a child without data. Throws std::bad_alloc without memory. */
     tree_node add(const text& name) const { return insert(name, nullptr); }
+    /** Appends a child with data of the caller's, which may be null. Throws std::bad_alloc without memory. */
     tree_node add(const text& name, T* data) const requires(!Owning) { return insert(name, data); }
+    /** Appends a child with data that the tree owns from now on. Throws std::bad_alloc without memory; data is deleted
+     *  then. */
     tree_node add(const text& name, std::unique_ptr<T> data) const requires Owning
     {
         const tree_node child = insert(name, data.get());
@@ -174,11 +180,12 @@ public:
 
 } // namespace detail
 
-/** A tree whose data are the caller's and must outlive their nodes. */
+/** An owner of a tree whose data are the caller's and must outlive their nodes. A tree begins as a root without name
+ *  and data; root() is its node (zu::tree_node), begin() and end() go over all nodes, each before its children. */
 template <class T>
 using tree = detail::basic_tree<T, false>;
 
-/** A tree that owns its data: they come from new, and the tree deletes them. */
+/** The same with data that the tree owns: they come from new, and the tree deletes them. */
 template <class T>
 using owning_tree = detail::basic_tree<T, true>;
 

@@ -6,7 +6,10 @@
 
 #include <algorithm>
 #include <cstdarg>
+#include <cstddef>
 #include <unordered_set>
+
+static_assert(sizeof(StrListNode) == 8 && offsetof(StrListNode, string) == 0);
 
 namespace {
 

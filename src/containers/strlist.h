@@ -6,12 +6,6 @@
 
 namespace zu {
 
-// An element of a string list.
-struct StrListNode
-{
-    zu_wchar* string;
-};
-
 inline WideView stringOf(const LnkNode* node)
 {
     return node == nullptr || node->data == nullptr ? WideView()

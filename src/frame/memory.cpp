@@ -85,7 +85,8 @@ void* zu_Realloc(void* block, uint64_t size)
 {
     if (block == nullptr)
         return zu_Malloc(size);
-    // A runtime's routine may release a block that is to have no size and answer null, which is the answer of a failure.
+    // A runtime's routine may release a block that is to have no size and answer null, which is the answer of a
+    // failure.
     void* const moved = reallocateHook(block, std::max<uint64_t>(size, 1));
     if (moved == nullptr)
         noteFailure("Unable to re-allocate", size);

@@ -27,8 +27,7 @@ public:
     {
         std::vector<Wide> result;
         for (const LnkNode* node = list->first; node != nullptr; node = node->next)
-            result.emplace_back(
-                **static_cast<zu_wchar* const*>(node->data) == 0 ? W("") : *static_cast<zu_wchar* const*>(node->data));
+            result.emplace_back(static_cast<const StrListNode*>(node->data)->string);
         return result;
     }
 
