@@ -42,9 +42,11 @@ TEST_F(DbTable, theExtensionChoosesTheConnection)
         ASSERT_EQ(calls.size(), handle < 0 ? 0u : 1u) << what;
         if (handle == 1) {
             EXPECT_TRUE(calls[0].starts_with("Driver=SQLite3 ODBC Driver;Database=")) << calls[0];
-            EXPECT_TRUE(calls[0].ends_with("a.db3;")) << calls[0];
             EXPECT_NE(calls[0].find("zu Test \u00e4"), std::string::npos) << "in UTF-8: " << calls[0];
-            EXPECT_EQ(fs::u8path(calls[0].substr(36, calls[0].size() - 37)).filename(), "a.db3");
+            const std::size_t end = calls[0].find(';', 36);
+            EXPECT_EQ(fs::u8path(calls[0].substr(36, end - 36)).filename(), "a.db3");
+            // The host's driver manager can leave something behind a text that is not all ASCII.
+            EXPECT_TRUE(!allTextsPass || end + 1 == calls[0].size()) << calls[0];
         }
     }
     EXPECT_FALSE(sandbox.exists(W("none.db3"))) << "opening creates nothing";
