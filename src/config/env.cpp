@@ -171,10 +171,10 @@ zu_wchar* zu_Env_getWin(const zu_wchar* file, const zu_wchar* section, const zu_
     // Cleared when there is nothing to put in only: an argument may be the value of the call before.
     static text::Buffer<255> value;
     const bool found = file != nullptr && section != nullptr && key != nullptr && guarded(false, [&] {
-        auto read = platform::profileString(file, section, key, value.capacity);
-        value.set(read ? *read : readProfile(file, section, key));
-        return !value.view().empty();
-    });
+                           auto read = platform::profileString(file, section, key, value.capacity);
+                           value.set(read ? *read : readProfile(file, section, key));
+                           return !value.view().empty();
+                       });
     if (!found)
         value.clear();
     return found ? value.units : nullptr;
@@ -184,11 +184,11 @@ zu_wchar* zu_Env_expandVar(const zu_wchar* text, int32_t* position)
 {
     static text::Buffer<512> value;
     const bool expanded = text != nullptr && position != nullptr && *position >= 0 && guarded(false, [&] {
-        auto index = static_cast<std::size_t>(*position);
-        value.set(expandReference(text, index));
-        *position = static_cast<int32_t>(index);
-        return true;
-    });
+                              auto index = static_cast<std::size_t>(*position);
+                              value.set(expandReference(text, index));
+                              *position = static_cast<int32_t>(index);
+                              return true;
+                          });
     if (!expanded)
         value.clear();
     return value.units;

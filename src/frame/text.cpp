@@ -176,8 +176,8 @@ double toDouble(WideView text)
     const bool isHex = isHexadecimal(all);
     const char* const first = isHex ? number + 2 : number;
     double value = 0.0;
-    const auto result = std::from_chars(first, number + length, value,
-                                        isHex ? std::chars_format::hex : std::chars_format::general);
+    const auto result =
+        std::from_chars(first, number + length, value, isHex ? std::chars_format::hex : std::chars_format::general);
     const std::string_view read(first, static_cast<std::size_t>(result.ptr - first));
     if (result.ec == std::errc::result_out_of_range)
         value = isHex ? hexOutOfRange(read) : outOfRange(read);

@@ -59,6 +59,7 @@ TEST(Env, expansionOfATextAndOfOneReference)
         EXPECT_EQ(str(zu_Env_expandStr(row.text)), row.expanded) << testing::PrintToString(str(row.text));
     zu_Env_setSes(W("Long"), Wide(400, W('y')).c_str());
     EXPECT_EQ(str(zu_Env_expandStr(W("%Long%%Long%"))), Wide(512, W('y'))) << "cut to the buffer";
+    EXPECT_EQ(str(zu_Env_expandStr(zu_Env_expandStr(W("a%%b")))), W("a")) << "of the result of the call before";
 
     const std::tuple<const char*, WideLiteral, int32_t, WideLiteral, int32_t> references[] = {
         {"in the middle", W("ab%A%cd"), 2, W("x%B%"), 5},

@@ -261,4 +261,26 @@ TEST(IniDocument, theFuzzCorpusHolds)
     EXPECT_GE(replayed, 10);
 }
 
+TEST(IniDocument, isLinearInLinesAndTheirLength)
+{
+    // A line of 10 MB, and a quarter of a million entries in as many groups and in one; quadratic work would not end.
+    std::string bytes = "[long]\nk=" + std::string(10'000'000, 'x') + "\n[many]\n";
+    for (int index = 0; index < 250'000; ++index)
+        bytes += "key" + std::to_string(index) + "=1\n";
+    for (int index = 0; index < 250'000; ++index)
+        bytes += "[g" + std::to_string(index) + "]\nk=" + std::to_string(index) + "\n";
+    const IniDocument document = parsed(bytes);
+    EXPECT_EQ(document.groupCount(), 250'002u);
+    EXPECT_EQ(document.value(W("LONG"), W("k"))->size(), 10'000'000u);
+    EXPECT_EQ(document.value(W("many"), W("KEY249999")), zu::WideView(W("1")));
+    EXPECT_EQ(document.value(W("g249999"), W("k")), zu::WideView(W("249999")));
+    const auto changed = document.withValue(W("g0"), W("k"), W("set"));
+    ASSERT_TRUE(changed);
+    const std::size_t at = bytes.find("[g0]\nk=0\n") + 7;
+    EXPECT_TRUE(*changed == ByteString(bytes.substr(0, at) + "set" + bytes.substr(at + 1)));
+    const auto emptied = document.withoutEntries(W("many"));
+    ASSERT_TRUE(emptied);
+    EXPECT_EQ(emptied->size(), bytes.size() - (bytes.find("[g0]") - bytes.find("key0")));
+}
+
 } // namespace

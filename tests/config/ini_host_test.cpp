@@ -2,6 +2,7 @@
 #include "support/host.h"
 #include "support/lists.h"
 #include "support/memory.h"
+#include "support/sandbox.h"
 #include "support/trace.h"
 #include "zu_Env.h"
 #include "zu_Ini.h"
@@ -36,6 +37,23 @@ TEST(IniHost, whatTheCacheIsAsked)
     zu_Ini_viewCache();
     EXPECT_EQ(host.calls(), (Calls{"FileService.Revalidate C:\\f.ini", "IniCache.Reload C:\\f.ini",
                                    "IniCache.ResetCache", "IniCache.ViewCache"}));
+}
+
+TEST(IniHost, aHostMayWriteFilesOfTheDirectoryWhenItIsToldOfOne)
+{
+    TestHost host;
+    Sandbox sandbox;
+    const Fields list(zu_FldList_create(W("K"), ZU_FLD_CHAR, W("x"), end));
+    const Wide other = sandbox.path(W("other.ini"));
+    bool isFirst = true;
+    host.whenCalled = [&](const std::string& call) {
+        if (call.starts_with("FileService.Revalidate") && std::exchange(isFirst, false)) {
+            EXPECT_EQ(zu_Ini_setGroupItems(other.c_str(), W("G"), list.get()), 1);
+        }
+    };
+    EXPECT_EQ(zu_Ini_setGroupItems(sandbox.path(W("f.ini")).c_str(), W("G"), list.get()), 1);
+    EXPECT_EQ(sandbox.read(W("other.ini")).substr(0, 3), "[G]");
+    EXPECT_EQ(sandbox.read(W("f.ini")), sandbox.read(W("other.ini")));
 }
 
 TEST(IniHost, aFailingCallIsRaisedAndNothingLeaks)

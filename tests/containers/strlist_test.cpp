@@ -1,5 +1,8 @@
 #include "support/memory.h"
+#include "support/trace.h"
 #include "support/wide.h"
+#include "zu_Diag.h"
+#include "zu_IntList.h"
 #include "zu_Memory.h"
 #include "zu_StrList.h"
 
@@ -241,6 +244,16 @@ TEST(StrList, noList)
     EXPECT_EQ(zu_StrList_toDelimitedString(nullptr, W("")), nullptr);
     EXPECT_EQ(zu_StrList_concatenate(nullptr, nullptr), 0);
     zu_StrList_sort(nullptr);
+    Strings withNull{W("b"), W("a")};
+    zu_LnkList_insEnd(withNull, nullptr);
+    zu_StrList_sort(withNull);
+    EXPECT_EQ(zu_StrList_count(withNull), 3u);
+    IntList* const integers = zu_IntList_create(static_cast<int32_t*>(nullptr));
+    zu_LnkList_insEnd(integers, nullptr);
+    IntList* const copy = zu_IntList_copy(integers);
+    EXPECT_EQ(zu_LnkList_length(copy), 0u) << "a null element has no value";
+    zu_IntList_destroy(copy);
+    zu_LnkList_destroy(integers, nullptr);
     Strings list{W("a")};
     EXPECT_EQ(zu_StrList_concatenate(list, nullptr), 0);
     EXPECT_EQ(zu_StrList_insEnd(list, nullptr), 0);
@@ -263,6 +276,52 @@ TEST(StrList, steppingWithTheCursor)
     EXPECT_EQ(zu_StrList_skip(list, 3), 0);
     EXPECT_EQ(zu_StrList_eol(list), 1);
     zu_StrList_destroy(list);
+}
+
+// Quadratic in the number of strings, each of these would take minutes.
+TEST(StrList, longListsAreNotQuadratic)
+{
+    Strings list{};
+    for (int index = 0; index < 200'000; ++index)
+        zu_StrList_insEnd(list, widen("string " + std::to_string(index % 150'000)).c_str());
+    *list.address() = zu_StrList_removeDuplicates(list, 1);
+    EXPECT_EQ(zu_StrList_count(list), 150'000u);
+    zu_wchar* const joined = zu_StrList_toDelimitedString(list, W(","));
+    const Strings again(zu_StrList_fromDelimitedString(joined, W(",")));
+    EXPECT_EQ(zu_StrList_count(again), 150'000u);
+    zu_Free(joined);
+    const Strings groups(zu_StrList_toDelimitedStringList(list, W(","), 1'000, 1));
+    EXPECT_EQ(zu_StrList_count(groups), 150u);
+}
+
+TEST(StrList, onlyTheTracedOperationsTrace)
+{
+    Strings list{W("a")};
+    TraceCapture trace(ZU_DIAG_STRLIST);
+    const std::vector<std::string> created = {"strlist Entering zu_StrListNode_create.",
+                                              "strlist Exiting zu_StrListNode_create."};
+    const std::vector<std::string> destroyed(2, "strlist Entering zu_StrListNode_destroy."); // both times
+    const auto around = [](const std::string& name, std::vector<std::string> lines) {
+        lines.insert(lines.begin(), "strlist Entering zu_StrList_" + name + ".");
+        lines.push_back("strlist Exiting zu_StrList_" + name + ".");
+        return lines;
+    };
+    zu_StrList_insStart(list, W("b"));
+    zu_StrList_insBefore(list, W("b"));
+    EXPECT_EQ(trace.lines(), (std::vector<std::string>{created[0], created[1], created[0], created[1]}));
+    zu_StrList_insAfter(list, W("b"));
+    EXPECT_EQ(trace.lines(), around("insAfter", created));
+    zu_StrList_modNth(list, 0, W("c"));
+    EXPECT_EQ(trace.lines(), around("modNth", around("modCurr", {created[0], created[1], destroyed[0], destroyed[1]})));
+    zu_StrList_delNth(list, 0);
+    EXPECT_EQ(trace.lines(), destroyed);
+    zu_StrList_getNth(list, 0);
+    zu_StrList_sort(list);
+    EXPECT_TRUE(trace.lines().empty());
+    zu_StrList_search(list, W("z"), 0);
+    EXPECT_EQ(trace.lines(), around("search", {}));
+    zu_StrList_destroy(zu_StrList_copy(nullptr));
+    EXPECT_EQ(trace.lines(), around("copy", {}));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "support/memory.h"
 #include "support/wide.h"
+#include "zu_LnkList.h"
 #include "zu_Timer.h"
 
 #include <chrono>
@@ -66,6 +67,19 @@ TEST_F(Timer, theFirstOfANameIsMeant)
     const double second = zu_Timer_check(W("t"));
     const std::chrono::duration<double> most = std::chrono::steady_clock::now() - start;
     EXPECT_LE(second, most.count() + 0.035) << "the second is left";
+}
+
+TEST_F(Timer, theFieldWraps)
+{
+    // The timer's element of the registry is what its creation obtains last.
+    ASSERT_EQ(zu_Timer_create(W("t")), 1);
+    auto* const timer = static_cast<TimerNode*>(static_cast<LnkNode*>(lastBlock())->data);
+    ASSERT_EQ(str(timer->name), W("t"));
+    const auto now = static_cast<uint32_t>(timer->startTicks);
+    for (const uint32_t elapsed : {now + 1000, uint32_t{0x7FFFFFFF}, uint32_t{0xF0000000}}) {
+        timer->startTicks = static_cast<int32_t>(now - elapsed);
+        EXPECT_NEAR(zu_Timer_check(W("t")), elapsed / 1000.0, 60.0) << elapsed;
+    }
 }
 
 TEST_F(Timer, longNamesAreCutAndFound)

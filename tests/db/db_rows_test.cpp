@@ -72,6 +72,8 @@ TEST_F(DbRows, unknownHandles)
         EXPECT_EQ(zu_Db_seekStr(W("a"), handle, 0), ZU_DB_FAILED);
     }
     EXPECT_EQ(zu_Db_readCurrRec(nullptr, 0), nullptr);
+    DbRefNode copy = *zu_DbRef_sel(fiveRows());
+    EXPECT_EQ(zu_Db_readCurrRec(&copy, 0), nullptr) << "not the handle's own";
 }
 
 TEST_F(DbRows, fieldsByName)

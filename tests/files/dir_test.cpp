@@ -122,6 +122,12 @@ TEST(Dir, deleteTreeDoesNotLeaveTheTree)
     EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"other/", "outside"}));
     if (onWindows)
         return;
+    for (WideLiteral name : {W("link"), W("link\\"), W("link/"), W("link\\\\")}) {
+        makeLink(sandbox.native(W("other")), sandbox.native(W("link")));
+        EXPECT_EQ(zu_Dir_deleteTree((sandbox.path() + W("\\") + name).c_str()), 0);
+        EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"other/", "outside"})) << "the link alone";
+    }
+    EXPECT_TRUE(sandbox.exists(W("other\\inner")));
 
     // Names that would be read as paths are left, and so is their directory.
     std::filesystem::create_directories(tree);

@@ -2,6 +2,10 @@
 #include "support/memory.h"
 #include "zu_File.h"
 
+#include <atomic>
+#include <fstream>
+#include <thread>
+
 namespace {
 
 using namespace zutest;
@@ -116,6 +120,54 @@ TEST(File, whatCannotBeWrittenIsReported)
         EXPECT_EQ(zu_File_mend(full.c_str()), 0) << size;
         EXPECT_EQ(sandbox.read(W("full.1")).size(), size) << "the part is still there";
     }
+}
+
+// Their length is not what the system says, and none of its own ways of copying takes them.
+TEST(File, filesOfTheSystemCanBeCopied)
+{
+    if (onWindows)
+        GTEST_SKIP() << "no such files on this system";
+    Sandbox sandbox;
+    EXPECT_EQ(zu_File_copy(W("C:\\proc\\self\\cmdline"), sandbox.path(W("copy")).c_str()), 0);
+    EXPECT_NE(sandbox.read(W("copy")), "");
+    EXPECT_EQ(zu_File_append(sandbox.path(W("copy")).c_str(), W("C:\\proc\\version")), 0);
+    EXPECT_NE(sandbox.read(W("copy")).find("Linux"), std::string::npos);
+}
+
+TEST(File, aFileThatGrowsOrVanishesWhileItIsCopied)
+{
+    Sandbox sandbox;
+    sandbox.write(W("log"), "");
+    const Wide log = sandbox.path(W("log"));
+    const Wide copy = sandbox.path(W("copy"));
+    std::atomic<bool> done = false;
+    std::thread writer([&, path = sandbox.native(W("log"))] {
+        std::string line = "0 line\n";
+        for (int round = 0; round < 4'000; ++round) {
+            line[0] = static_cast<char>('0' + round % 10);
+            std::ofstream file;
+            while (!file.is_open()) // the copy may keep others off
+                file.open(path, std::ios::binary | std::ios::app);
+            file << line;
+            file.close();
+            std::error_code error;
+            if (round % 500 == 499)
+                std::filesystem::remove(path, error); // it begins anew
+        }
+        done = true;
+    });
+    while (!done) {
+        sandbox.write(W("copy"), "old");
+        if (zu_File_copy(log.c_str(), copy.c_str()) != 0)
+            continue;
+        // A success is the beginning of what the file was.
+        const std::string content = sandbox.read(W("copy"));
+        for (std::size_t at = 0; at < content.size(); at += 7) {
+            const char digit = static_cast<char>('0' + at / 7 % 10);
+            ASSERT_EQ(content.substr(at, 7), (digit + std::string(" line\n")).substr(0, content.size() - at)) << at;
+        }
+    }
+    writer.join();
 }
 
 } // namespace

@@ -176,4 +176,27 @@ TEST(File, deleteByPatternAndByList)
         [&] { EXPECT_LT(deleted, 2); });
 }
 
+TEST(File, directoriesOfManyEntries)
+{
+    const std::size_t many = onWindows ? 2'000 : 100'000;
+    Sandbox sandbox;
+    std::filesystem::create_directory(sandbox.native(W("Many")));
+    sandbox.write(W("Many\\0"), "");
+    const std::filesystem::path first = sandbox.native(W("Many\\0"));
+    // Links are made faster than files; a file takes only so many of them.
+    for (std::size_t count = 1; count < many; ++count) {
+        const std::filesystem::path name = first.parent_path() / std::to_string(count);
+        if (count % 50'000 == 0)
+            sandbox.write(W("Many\\") + widen(std::to_string(count)), "");
+        else
+            std::filesystem::create_hard_link(count < 50'000 ? first : first.parent_path() / "50000", name);
+    }
+    const Wide all = sandbox.path(W("Many\\*"));
+    StrList* const list = zu_Dir_list(sandbox.path(W("many\\*")).c_str());
+    EXPECT_EQ(zu_StrList_count(list), many + 2);
+    zu_StrList_destroy(list);
+    EXPECT_EQ(zu_File_delete(all.c_str(), 0), static_cast<int32_t>(many));
+    EXPECT_EQ(zu_Dir_delete(sandbox.path(W("many")).c_str()), 0);
+}
+
 } // namespace

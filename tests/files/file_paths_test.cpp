@@ -33,6 +33,9 @@ TEST(File, relativeNames)
 // Going the relative way from the base must lead to the target.
 TEST(File, relativeNamesLeadToTheTarget)
 {
+    const zu_wchar* const before = zu_File_getRelativeFilename(W("C:\\ab"), W("D:\\xx.txt"));
+    EXPECT_EQ(str(zu_File_getRelativeFilename(W("D:\\a\\b\\c"), before)), W("..\\..\\..\\xx.txt"))
+        << "of the result of the call before";
     const std::string letters = noise(4'000, 11);
     std::size_t at = 0;
     const auto path = [&] {

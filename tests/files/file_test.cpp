@@ -69,7 +69,7 @@ TEST(File, moveReplacesTheDestination)
 }
 
 #if !defined(_WIN32)
-TEST(File, readingDoesNotWaitForTheWriterOfAPipe)
+TEST(File, nobodyWaitsAtAPipe)
 {
     Sandbox sandbox;
     ASSERT_EQ(::mkfifo(sandbox.native(W("pipe")).c_str(), 0600), 0);
@@ -78,6 +78,8 @@ TEST(File, readingDoesNotWaitForTheWriterOfAPipe)
     EXPECT_EQ(zu_File_readFileExactly(pipe.c_str()), nullptr);
     EXPECT_EQ(zu_File_copy(pipe.c_str(), sandbox.path(W("copy")).c_str()), 1);
     EXPECT_EQ(zu_File_slice(pipe.c_str(), 10), 0);
+    sandbox.write(W("file"), "x");
+    EXPECT_EQ(zu_File_append(pipe.c_str(), sandbox.path(W("file")).c_str()), 1);
 }
 #endif
 

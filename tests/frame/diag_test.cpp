@@ -68,6 +68,10 @@ TEST_F(Diag, noNameFallsBackToTheDefaultAndSaysSo)
               "zu_Diag_setOutput: Diagnostics log file name specified is invalid.\nDefaulting to log file: "
               "ZU_DIAG.LOG\n");
     EXPECT_TRUE(sandbox.exists(W("ZU_DIAG.LOG")));
+    // The name that is held may be given again.
+    zu_Diag_setFileName(sandbox.path(W("held")).c_str());
+    EXPECT_EQ(zu_Diag_setOutput(ZU_DIAG_TO_FILE, zu_Diag_getFileName()), 1);
+    EXPECT_EQ(str(zu_Diag_getFileName()), sandbox.path(W("held")));
 }
 
 TEST_F(Diag, aLineNamesTheSourceInLowerCaseWithoutItsDirectory)

@@ -79,6 +79,9 @@ TEST(Msg, theFirstTwoWords)
         {W("one two three"), 1, W("one"), W("two")},
         {W("one"), 0, W("one"), W("-")},
         {W(" _ "), 0, W("-"), W("-")},
+        {W("A\t\tB_ C\t"), 1, W("A\t\tB"), W("C")},
+        {W("\t ABC"), 0, W(""), W("-")},
+        {W("ABC \t"), 0, W("ABC"), W("-")},
         {nullptr, 0, W("-"), W("-")},
     };
     for (const auto& [text, result, rowFirst, rowSecond] : rows) {

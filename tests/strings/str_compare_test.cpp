@@ -126,6 +126,7 @@ TEST(Str, versions)
         EXPECT_EQ(zu_Str_compareVersion(a, b), order) << PrintToString(str(a)) << " " << PrintToString(str(b));
         EXPECT_EQ(zu_Str_compareVersion(b, a), reversed) << PrintToString(str(b)) << " " << PrintToString(str(a));
     }
+    EXPECT_EQ(zu_Str_compareVersion(W("nano.2"), W("nano.1")), 1) << "what is not a number does not decide";
 }
 
 } // namespace

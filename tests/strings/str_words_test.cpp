@@ -105,7 +105,9 @@ TEST(Str, tokens)
     const Wide tooLong = W("a,") + longest;
     EXPECT_EQ(zu_Str_getNthToken(tooLong.c_str(), W(","), 0, nullptr), nullptr);
     EXPECT_EQ(zu_Str_getRightNthToken(tooLong.c_str(), W(","), 1, nullptr), nullptr);
-    // The result of the call before may be taken apart further.
+    // The result of the call before may be taken apart further, and may be the delimiters.
+    const zu_wchar* const commas = zu_Str_getNthToken(W(",;x"), W(";x"), 0, nullptr);
+    EXPECT_EQ(str(zu_Str_getNthToken(W("a,b"), commas, 1, nullptr)), W("b"));
     EXPECT_EQ(str(zu_Str_getNthToken(zu_Str_getNthToken(W("z;a,b"), W(";"), 1, nullptr), W(","), 1, nullptr)), W("b"));
 }
 

@@ -25,9 +25,12 @@ bool mayAllocate()
     return true;
 }
 
+void* newest = nullptr;
+
 void* counted(void* block)
 {
     live += block != nullptr;
+    newest = block;
     return block;
 }
 
@@ -62,6 +65,11 @@ void installHooks()
 std::int64_t liveBlocks()
 {
     return live;
+}
+
+void* lastBlock()
+{
+    return newest;
 }
 
 AllocationLimit::AllocationLimit(std::int64_t allowed)

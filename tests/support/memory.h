@@ -14,6 +14,9 @@ void installHooks();
 // Blocks of the library that are not released yet.
 std::int64_t liveBlocks();
 
+// The block that was obtained last.
+void* lastBlock();
+
 // While it lives, allocations fail once `allowed` of them have succeeded.
 class AllocationLimit
 {

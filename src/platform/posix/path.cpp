@@ -62,8 +62,8 @@ bool equalsIgnoringCase(const char* entry, const ByteString& name)
     return *entry == '\0';
 }
 
-// The entry of a directory that equals name ignoring case: the first in order when there are several. For a name that is
-// not there the whole directory is read, so a name without letters is not looked for.
+// The entry of a directory that equals name ignoring case: the first in order when there are several. For a name that
+// is not there the whole directory is read, so a name without letters is not looked for.
 ByteString findEntry(const ByteString& directory, const ByteString& name)
 {
     ByteString found;
