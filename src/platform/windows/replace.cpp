@@ -179,10 +179,14 @@ bool replaceFile(WideView from, WideView to)
 
 void copyPermissions(WideView from, WideView to)
 {
-    // The access list comes with the directory; what a file has of its own are its attributes.
-    const DWORD attributes = ::GetFileAttributesW(WideString(from).c_str());
+    const WideString source(from);
+    const WideString target(to);
+    HookVector<char> accessList = accessListOf(source);
+    if (!accessList.empty())
+        ::SetFileSecurityW(target.c_str(), DACL_SECURITY_INFORMATION, accessList.data());
+    const DWORD attributes = ::GetFileAttributesW(source.c_str());
     if (attributes != INVALID_FILE_ATTRIBUTES)
-        ::SetFileAttributesW(WideString(to).c_str(), attributes);
+        ::SetFileAttributesW(target.c_str(), attributes);
 }
 
 DirectoryLock::DirectoryLock(WideView pathOfFile) : handle(0)
