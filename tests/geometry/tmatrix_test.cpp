@@ -140,31 +140,4 @@ TEST(TMatrix, createFromUCSSpecialCases)
     EXPECT_TRUE(isNear(rowsOf(m), {0, -1, 0, 7, 1, 0, 0, 4, 0, 0, 1, 2, 0, 0, 0, 1}));
 }
 
-TEST(TMatrix, badInputIsRefusedAndTracedUnderTheStatedNames)
-{
-    const MatrixPtr m = transformation(sixteen), small(zu_RotMatrix_create());
-    const Point p = {1, 2, 3};
-    Point out = {7, 8, 9};
-    Refusals refused(ZU_DIAG_MATRIX, "matrix");
-    refused({REFUSAL(zu_TMatrix_destroy, nullptr),
-             REFUSAL(zu_TMatrix_set, small.get(), 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12),
-             REFUSAL(zu_TMatrix_setIdentity, nullptr), REFUSAL(zu_TMatrix_setOrigin, m.get(), nullptr),
-             REFUSAL(zu_TMatrix_setOrigin, small.get(), &p), REFUSAL(zu_TMatrix_getOrigin, nullptr, m.get()),
-             REFUSAL(zu_TMatrix_getOrigin, &out, small.get()), REFUSAL(zu_TMatrix_setRMatrix, m.get(), nullptr),
-             REFUSAL(zu_TMatrix_setRMatrix, small.get(), small.get()),
-             REFUSAL(zu_TMatrix_getRMatrix, small.get(), nullptr),
-             REFUSAL(zu_TMatrix_rotate, m.get(), nullptr, 1, 2, 3),
-             REFUSAL(zu_TMatrix_rotate, m.get(), small.get(), 1, 2, 3),
-             REFUSAL(zu_TMatrix_createForTranslation, m.get(), &p, nullptr),
-             REFUSAL(zu_TMatrix_createForTranslation, nullptr, &p, &p),
-             REFUSAL(zu_TMatrix_createFromUCS, m.get(), &p, &p, &p, &p, nullptr, &p),
-             REFUSAL(zu_TMatrix_createFromUCS, nullptr, &p, &p, &p, &p, &p, &p)});
-    zu_TMatrix_xform(&out, nullptr, &p);
-    zu_TMatrix_xform(&out, small.get(), &p);
-    zu_TMatrix_xform(&out, m.get(), nullptr);
-    zu_TMatrix_xform(nullptr, m.get(), &p);
-    EXPECT_EQ(rowsOf(m), sixteen);
-    EXPECT_EQ(at(out), (Triple{7, 8, 9}));
-}
-
 } // namespace

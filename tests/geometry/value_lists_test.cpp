@@ -161,9 +161,6 @@ TYPED_TEST(ValueLists, closestIsTheFirstOfTheNearest)
     EXPECT_EQ(TypeParam::closest(&out, &p, this->list), 2) << "elements without data are counted";
     EXPECT_EQ(out.x, -2);
     EXPECT_EQ(TypeParam::eol(this->list), 1);
-    EXPECT_EQ(TypeParam::closest(nullptr, &p, this->list) + TypeParam::closest(&out, nullptr, this->list) +
-                  TypeParam::closest(&out, &p, nullptr),
-              -3);
 
     // Against distances computed one by one. Coordinates on a coarse grid give many at the same distance.
     Numbers numbers(82);
@@ -194,9 +191,6 @@ TYPED_TEST(ValueLists, withoutMemory)
     LnkList* made = nullptr;
     sweepAllocations([&] { made = TypeParam::create(&one, &two, static_cast<void*>(nullptr)); },
                      [&] { EXPECT_EQ(made, nullptr); });
-    LnkList* copy = nullptr;
-    sweepAllocations([&] { copy = TypeParam::copy(made); }, [&] { EXPECT_EQ(copy, nullptr); });
-    TypeParam::destroy(copy);
     int32_t result = -1;
     const auto check = [&] {
         EXPECT_EQ(result, 0);
@@ -204,27 +198,8 @@ TYPED_TEST(ValueLists, withoutMemory)
         EXPECT_EQ(TypeParam::getCurr(made)->x, 1);
     };
     sweepAllocations([&] { result = TypeParam::modCurr(made, &one); }, check);
-    sweepAllocations([&] { result = TypeParam::insNth(made, 0, &one); }, check);
     EXPECT_EQ(result, 1);
     TypeParam::destroy(made);
-}
-
-TYPED_TEST(ValueLists, nullIsRefused)
-{
-    const auto one = this->value(1);
-    this->append(1);
-    TypeParam::start(this->list);
-    EXPECT_TRUE(allAre(0, {TypeParam::destroy(nullptr), TypeParam::insStart(this->list, nullptr),
-                           TypeParam::insEnd(nullptr, &one), TypeParam::insBefore(this->list, nullptr),
-                           TypeParam::insAfter(nullptr, &one), TypeParam::insNth(this->list, 0, nullptr),
-                           TypeParam::modCurr(this->list, nullptr), TypeParam::modNth(nullptr, 0, &one),
-                           TypeParam::delCurr(nullptr), TypeParam::delNth(nullptr, 0), TypeParam::delAll(nullptr),
-                           TypeParam::skip(nullptr, 1)}));
-    EXPECT_EQ(this->content(), std::vector<double>{1});
-    EXPECT_EQ(TypeParam::copy(nullptr), nullptr);
-    EXPECT_EQ(TypeParam::getNth(nullptr, 0), nullptr);
-    EXPECT_EQ(TypeParam::eol(nullptr), 1);
-    EXPECT_EQ(TypeParam::length(nullptr), 0u);
 }
 
 TEST(PointList, searchFindsTheLast)
