@@ -127,16 +127,6 @@ TEST(LnkListSort, manyElementsWithoutMemory)
         sortMany(name, 200'000, 0, 40);
 }
 
-TEST(LnkListSort, equalKeysChangeNothing)
-{
-    Fixture fixture({7, 7, 7, 7});
-    const auto before = fixture.data();
-    const LnkNode* const current = fixture.list.current;
-    zu_LnkList_qSort(&fixture.list, byKey);
-    EXPECT_EQ(fixture.data(), before);
-    EXPECT_EQ(fixture.list.current, current);
-}
-
 // The stated rule of the quick sort, on a range of pointers.
 void* pivotByRule(const std::vector<void*>& data)
 {
