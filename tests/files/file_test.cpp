@@ -28,8 +28,6 @@ TEST(File, accessTests)
     EXPECT_EQ(zu_File_isWriteEnabled(locked.c_str()), 0);
     EXPECT_EQ(zu_File_setReadWriteAccess(locked.c_str()), 1);
     EXPECT_EQ(zu_File_isWriteEnabled(locked.c_str()), 1);
-    EXPECT_EQ(zu_File_setReadWriteAccess(nullptr), 0);
-    EXPECT_EQ(zu_File_hasAccess(nullptr, 0), 0);
 }
 
 TEST(File, moveReplacesTheDestination)
@@ -53,7 +51,6 @@ TEST(File, moveReplacesTheDestination)
     EXPECT_FALSE(sandbox.exists(W("B"))) << "deleted although there is no source";
 
     sandbox.write(W("c"), "3");
-    EXPECT_EQ(zu_File_move(sandbox.path(W("c")).c_str(), nullptr), -1);
     if (onWindows)
         sandbox.write(W("d"), "4");
     else
@@ -61,11 +58,9 @@ TEST(File, moveReplacesTheDestination)
     EXPECT_EQ(move(W("c"), W("d")), 0);
     EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"d"})) << "another link to the same file";
 
-    sweepAllocations([&] { move(W("d"), W("e")); }, [&] { EXPECT_EQ(sandbox.read(W("d")), "3"); });
-
     std::filesystem::create_directory(sandbox.native(W("f")));
-    EXPECT_EQ(move(W("f"), W("e")), 0) << "a directory takes the place of a file";
-    EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"e/"}));
+    EXPECT_EQ(move(W("f"), W("d")), 0) << "a directory takes the place of a file";
+    EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"d/"}));
 }
 
 #if !defined(_WIN32)
@@ -117,7 +112,6 @@ TEST(File, timesAreComparedInSeconds)
     std::filesystem::last_write_time(sandbox.native(W("new")), late);
     EXPECT_EQ(zu_File_getTime(newer.c_str(), &time), 1) << "does not fit 32 bits";
     EXPECT_EQ(zu_File_cmpTime(older.c_str(), newer.c_str()), -1);
-    EXPECT_EQ(zu_File_getTime(nullptr, &time), 1);
 }
 
 TEST(File, lengthOfAStream)
@@ -141,10 +135,8 @@ TEST(File, badNames)
     Sandbox sandbox;
     sandbox.write(W("good"), "x");
     std::vector<std::pair<std::string, Wide>> names = {
-        {"300 units", sandbox.path(Wide(300, W('n')))},
         {"5,000 units", sandbox.path(Wide(5000, W('n')))},
         {"below a file", sandbox.path(W("good\\x"))},
-        {"no such directory", sandbox.path(W("none\\x"))},
         {"no such drive", W("Q:\\x")},
         {"a directory", sandbox.path()},
         {"empty", Wide()},
@@ -193,7 +185,8 @@ TEST(File, nullNamesAndStreams)
     EXPECT_TRUE(allAre(0, {zu_File_readLine(nullptr, line, 1), zu_File_encrypt(nullptr, good), zu_File_mend(nullptr),
                            zu_File_decrypt(good, nullptr), zu_File_slice(nullptr, 5), zu_File_exists(nullptr),
                            zu_Dir_exists(nullptr), zu_File_deleteSingle(nullptr), zu_File_deleteSingle(W("")),
-                           zu_File_delete(nullptr, 1), zu_File_delete(W(""), 0)}));
+                           zu_File_delete(nullptr, 1), zu_File_delete(W(""), 0), zu_File_setReadWriteAccess(nullptr),
+                           zu_File_hasAccess(nullptr, 0)}));
     EXPECT_TRUE(allAre(1, {zu_File_append(nullptr, good), zu_File_copy(good, nullptr), zu_File_copy(nullptr, good),
                            zu_File_copyRest(nullptr, stream), zu_File_copyRest(stream, nullptr),
                            zu_File_getTime(good, nullptr), zu_File_getTime(nullptr, &time)}));
