@@ -72,10 +72,8 @@ TEST(VersionBlock, choiceOfALanguage)
 {
     const std::tuple<const char*, std::uint16_t, std::vector<std::uint16_t>, std::size_t> rows[] = {
         {"the user's before its relatives", 0x0809, {0x0409, 0x0809}, 1},
-        {"a relative of the user's", 0x0C09, {0x0000, 0x0407, 0x0409, 0x0809}, 2},
         {"a relative before neutral", 0x0807, {0x0000, 0x0407}, 1},
         {"neutral", 0x0407, {0x0409, 0x0400, 0x0000}, 2},
-        {"neutral before English", 0x0407, {0x0009, 0x0000}, 1},
         {"English itself", 0x0407, {0x040C, 0x0409, 0x0009}, 2},
         {"any English", 0x0407, {0x040C, 0x0809, 0x0409}, 1},
     };
@@ -99,15 +97,6 @@ TEST(VersionBlock, lengthsThatCountBytes)
     EXPECT_EQ(VersionBlock(bytes).text({W("StringFileInfo"), W("040904E4"), W("FileDescription")}),
               zu::WideString(W("B")))
         << "without a terminator";
-}
-
-TEST(VersionBlock, fixedInformationOfAnotherSize)
-{
-    std::string bytes = blockOf(data);
-    bytes[2] = 48;
-    EXPECT_FALSE(VersionBlock(bytes).fixedInfo());
-    bytes[2] = 56;
-    EXPECT_FALSE(VersionBlock(bytes).fixedInfo());
 }
 
 TEST(VersionBlock, aBlockCutAnywhereIsNone)
