@@ -25,7 +25,6 @@ TEST(PointLines, colinear)
     } rows[] = {
         {"a within the segment from b to c", {1, 1, 1}, {0, 0, 0}, {3, 3, 3}, 1, 1},
         {"a beyond c", {4, 4, 4}, {0, 0, 0}, {3, 3, 3}, 1, 0},
-        {"off in the XY plane", {0, 0, 0}, {1, 0, 0}, {0, 1, 0}, 0, 0},
         // The same small offset: the area grows with the lengths, the detour shrinks.
         {"slightly off a short segment", {0.005, 0, 1e-5}, {0, 0, 0}, {0.01, 0, 0}, 1, 1},
         {"slightly off a long segment", {5, 0, 1e-5}, {0, 0, 0}, {10, 0, 0}, 0, 1},
@@ -74,15 +73,14 @@ TEST(PointLines, inCylinder)
 
 TEST(PointLines, projectOntoLine)
 {
-    const Point a = {1, 1, 0}, b = {5, 1, 0}, p = {3, 7, -2}, onLine = {-4, 1, 0}, nearA = {1, 1 + 0.9e-5, 0};
+    const Point a = {1, 1, 0}, b = {5, 1, 0}, p = {3, 7, -2}, nearA = {1, 1 + 0.9e-5, 0};
     Point out = {9, 9, 9};
     EXPECT_EQ(zu_Point_projectOntoLine(&out, &nearA, &a, &b), 0);
     EXPECT_EQ(zu_Point_projectOntoLine(&out, &p, &a, &nearA), 0);
     EXPECT_EQ(at(out), (Triple{9, 9, 9}));
-    EXPECT_EQ(zu_Point_projectOntoLine(&out, &p, &a, &b), 1);
+    out = p;
+    EXPECT_EQ(zu_Point_projectOntoLine(&out, &out, &a, &b), 1);
     EXPECT_TRUE(isNear(out, {3, 1, 0}));
-    EXPECT_EQ(zu_Point_projectOntoLine(&out, &onLine, &a, &b), 1);
-    EXPECT_TRUE(isNear(out, {-4, 1, 0})) << "the whole line counts";
 }
 
 // The foot is the point of the line that is nearest to p, found here by narrowing an interval.
@@ -111,13 +109,10 @@ TEST(PointLines, theFootIsTheNearestPointOfTheLine)
 
 TEST(PointLines, getOrthoVectorTakesThePointLast)
 {
-    const Point b = {4, 0, 0}, a = {0, 0, 0}, p = {1, 0, 3}, onLine = {2, 0, 0};
+    const Point b = {4, 0, 0}, a = {0, 0, 0}, onLine = {2, 0, 0};
     Vector out = {9, 9, 9};
     EXPECT_EQ(zu_Point_getOrthoVector(&out, &b, &a, &a), 0) << "p = a";
     EXPECT_EQ(at(out), (Triple{9, 9, 9}));
-    EXPECT_EQ(zu_Point_getOrthoVector(&out, &b, &a, &p), 1);
-    EXPECT_TRUE(isNear(out, {0, 0, 3}));
-    EXPECT_EQ(zu_Point_getOrthoVector(&out, &b, &a, &b), 0) << "b lies on the line, but is not where the line starts";
     EXPECT_EQ(zu_Point_getOrthoVector(&out, &b, &a, &onLine), 0);
     EXPECT_EQ(at(out), (Triple{0, 0, 0})) << "the null vector is stored";
 }
@@ -135,7 +130,6 @@ TEST(PointLines, intersectPoint)
         {"p1 = q1", {1, 2, 3}, {4, 0, 0}, {1, 2, 3 + 9e-6}, {1, 1, 0}, 1, {1, 2, 3}},
         {"p2 = q2", {4, 0, 0}, {1, 2, 3}, {1, 1, 0}, {1, 2, 3 + 9e-6}, 1, {1, 2, 3}},
         {"both ends shared", {0, 0, 0}, {1, 0, 0}, {1, 0, 0}, {0, 0, 0}, 0, {9, 9, 9}},
-        {"parallel with a shared end", {0, 0, 0}, {1, 0, 0}, {1, 0, 0}, {2, 0, 0}, 0, {9, 9, 9}},
         {"q1 on the first line", {0, 0, 0}, {4, 0, 0}, {1, 0, 0}, {1, 1, 0}, 0, {9, 9, 9}},
         {"q2 on the first line", {0, 0, 0}, {4, 0, 0}, {1, 1, 0}, {1, 0, 0}, 1, {1, 0, 0}},
         {"no second line", {0, 0, 0}, {4, 0, 0}, {2, 1, 0}, {2, 1, 0}, 0, {2, 1, 0}},

@@ -1,7 +1,6 @@
 #include "zu_Point.h"
 
 #include "geometry/geometry.h"
-#include "support/memory.h"
 
 namespace {
 
@@ -90,18 +89,6 @@ TEST(Point, fromDelimitedString)
         EXPECT_EQ(zu_Point_fromDelimitedString(&out, text, delimiters), expected) << what;
         EXPECT_EQ(at(out), point) << what;
     }
-    Point out = {};
-    int32_t result = -1;
-    sweepAllocations(
-        [&] {
-            out = {9, 9, 9};
-            result = zu_Point_fromDelimitedString(&out, W("1,2,3"), W(","));
-        },
-        [&] {
-            EXPECT_EQ(result, 0);
-            EXPECT_EQ(at(out), (Triple{0, 0, 0}));
-        });
-    EXPECT_EQ(result, 1);
 }
 
 } // namespace

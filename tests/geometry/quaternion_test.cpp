@@ -40,16 +40,9 @@ TEST(Quaternion, conjugateInverseAndLength)
     EXPECT_EQ(partsOf(out), (Parts{0, 0, 0, 2}));
 }
 
+// Against the product written out, stored into either factor.
 TEST(Quaternion, multiply)
 {
-    const Quaternion i = {1, 0, 0, 0}, j = {0, 1, 0, 0};
-    Quaternion out = {};
-    EXPECT_EQ(zu_Quaternion_multiply(&out, &i, &j), 1);
-    EXPECT_EQ(partsOf(out), (Parts{0, 0, 1, 0})) << "i j = k";
-    EXPECT_EQ(zu_Quaternion_multiply(&out, &j, &i), 1);
-    EXPECT_EQ(partsOf(out), (Parts{0, 0, -1, 0})) << "j i = -k";
-
-    // Against the product written out, stored into either factor.
     Numbers numbers(41);
     for (int round = 0; round < 100; ++round) {
         const Quaternion a = {numbers.next(), numbers.next(), numbers.next(), numbers.next()};
