@@ -46,17 +46,11 @@ TEST(File, oneEnumerationAtATime)
     sandbox.write(W("a1"), "");
     sandbox.write(W("a2"), "");
     const Wide all = sandbox.path(W("a*"));
-    const auto list = [&] {
-        zu_StrList_destroy(zu_Dir_list(all.c_str()));
+    const std::vector<std::function<void()>> enders = {
+        [&] { zu_StrList_destroy(zu_Dir_list(all.c_str())); },
+        [&] { EXPECT_EQ(zu_File_delete(sandbox.path(W("b*")).c_str(), 0), 0); },
     };
-    const auto fail = [&] {
-        WideBuffer<300> other;
-        zu_File_findFirst(sandbox.path(W("b*")).c_str(), other);
-    };
-    const auto erase = [&] {
-        EXPECT_EQ(zu_File_delete(sandbox.path(W("b*")).c_str(), 0), 0);
-    };
-    for (const std::function<void()>& ends : std::vector<std::function<void()>>{list, fail, erase}) {
+    for (const auto& ends : enders) {
         WideBuffer<300> name;
         ASSERT_EQ(zu_File_findFirst(all.c_str(), name), 0);
         ends();
@@ -67,7 +61,6 @@ TEST(File, oneEnumerationAtATime)
     EXPECT_EQ(zu_File_deleteSingle(sandbox.path(name.str()).c_str()), 1) << "deleting one file does not end it";
     EXPECT_EQ(zu_File_findNext(name), 0);
     EXPECT_EQ(name.str(), W("a2"));
-    EXPECT_NE(zu_File_findNext(name), 0);
     EXPECT_NE(zu_File_findNext(name), 0);
 }
 

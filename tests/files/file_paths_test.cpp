@@ -10,8 +10,6 @@ using namespace zutest;
 TEST(File, relativeNames)
 {
     const std::tuple<const char*, WideLiteral, WideLiteral, WideLiteral> rows[] = {
-        {"below", W("D:\\a\\b"), W("D:\\a\\b\\c\\x.txt"), W("c\\x.txt")},
-        {"beside, with a separator", W("D:\\a\\b\\"), W("D:\\a\\c\\x.txt"), W("..\\c\\x.txt")},
         {"the base itself", W("D:\\a\\b"), W("D:\\a\\b"), W("..\\b")},
         {"drive letters of either case", W("d:\\a\\b"), W("D:\\a\\b\\x"), W("x")},
         {"case counts behind them", W("D:\\A\\b"), W("D:\\a\\b\\x"), W("..\\..\\a\\b\\x")},
@@ -61,13 +59,8 @@ TEST(File, relativeNamesLeadToTheTarget)
 
 TEST(File, networkNamesOfUnmappedPaths)
 {
-    const std::tuple<const char*, Wide> rows[] = {
-        {"no colon", W("\\\\server\\share\\x")},
-        {"a drive of this machine", W("C:\\dir\\file")},
-        {"no drive", W("http://x")},
-    };
-    for (const auto& [what, path] : rows)
-        EXPECT_EQ(str(zu_File_getUNCPathName(path.c_str())), path) << what;
+    for (const WideLiteral path : {W("\\\\server\\share\\x"), W("C:\\dir\\file"), W("http://x")})
+        EXPECT_EQ(str(zu_File_getUNCPathName(path)), path);
     EXPECT_EQ(str(zu_File_getUNCPathName(nullptr)), W(""));
     EXPECT_EQ(str(zu_File_getUNCPathName(Wide(600, W('x')).c_str())), Wide(511, W('x')));
 }
