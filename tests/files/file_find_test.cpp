@@ -1,5 +1,4 @@
 #include "files_support.h"
-#include "support/memory.h"
 #include "zu_Dir.h"
 #include "zu_File.h"
 

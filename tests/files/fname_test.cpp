@@ -1,4 +1,3 @@
-#include "support/memory.h"
 #include "support/sandbox.h"
 #include "zu_Fname.h"
 

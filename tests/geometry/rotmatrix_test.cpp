@@ -1,7 +1,6 @@
 #include "zu_RotMatrix.h"
 
 #include "geometry/geometry.h"
-#include "support/memory.h"
 
 namespace {
 

@@ -1,7 +1,6 @@
 #include "zu_TMatrix.h"
 
 #include "geometry/geometry.h"
-#include "support/memory.h"
 
 namespace {
 

@@ -1,7 +1,6 @@
 // The application object and the file service of the built-in host.
 #include "host/builtin/builtin.h"
 #include "support/host.h"
-#include "support/memory.h"
 #include "support/sandbox.h"
 
 namespace {

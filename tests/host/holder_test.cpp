@@ -1,7 +1,6 @@
 #include "frame/host_services.h"
 #include "host/holder.h"
 #include "support/host.h"
-#include "support/memory.h"
 #include "zu_File.h"
 #include "zu_Global.h"
 #include "zu_Host.h"

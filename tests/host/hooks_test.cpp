@@ -1,5 +1,4 @@
 #include "support/host.h"
-#include "support/memory.h"
 #include "zu_Drawing.h"
 #include "zu_Global.h"
 #include "zu_Host.h"

@@ -1,5 +1,4 @@
 #include "host/modules.h"
-#include "support/memory.h"
 #include "support/sandbox.h"
 #include "zu_Global.h"
 #include "zu_Sys.h"

@@ -2,7 +2,6 @@
 #include "host/registry.h"
 #include "support/configured.h"
 #include "support/host.h"
-#include "support/memory.h"
 #include "zu_Msg.h"
 #include "zu_Sys.h"
 

@@ -1,5 +1,4 @@
 #include "host/registry.h"
-#include "support/memory.h"
 #include "zu_Sys.h"
 
 namespace {
