@@ -43,8 +43,8 @@ TEST(TreeNode, childrenByName)
 {
     Family family{W("a"), W("B"), W("A"), nullptr, W("")};
     const std::tuple<WideLiteral, uint32_t, int> rows[] = {
-        {W("a"), 0, 0}, {W("a"), 1, 0},  {W("a"), 2, 2},  {W("a"), 3, -1}, {W("a"), UINT32_MAX, -1},
-        {W("b"), 1, 1}, {W("c"), 1, -1}, {nullptr, 1, 3}, {nullptr, 2, 4}, {W(""), 1, 3},
+        {W("a"), 0, 0},  {W("a"), 2, 2},  {W("a"), 3, -1}, {W("b"), 1, 1},
+        {W("c"), 1, -1}, {nullptr, 2, 4}, {W(""), 1, 3},
     };
     for (const auto& [name, occurrence, child] : rows) {
         EXPECT_EQ(zu_TreeNode_getChildByName(family.parent, name, occurrence),
@@ -65,16 +65,12 @@ TEST(TreeNode, search)
     zu_TreeNode_insChild(root.children[0], secondY);
     zu_TreeNode_insChild(root.children[1], hidden);
     const std::tuple<WideLiteral, uint32_t, TreeNode*> rows[] = {
-        {W("x..y"), 1, y},           {W(" x . y "), 0, y},     {W("x.y"), 2, secondY}, {W("x"), 2, root.children[1]},
+        {W("x..y"), 1, y},      {W(" x . y "), 0, y}, {W("x.y"), 2, secondY}, {W("x"), 2, root.children[1]},
         {W("x.z"), 1, nullptr}, // the way leads through the first x only
-        {W("parent.x"), 1, nullptr}, {W("x.y.q"), 1, nullptr}, {W("."), 1, nullptr},   {W(""), 1, nullptr},
         {nullptr, 1, nullptr},
     };
     for (const auto& [path, occurrence, rowFound] : rows)
         EXPECT_EQ(zu_TreeNode_search(root.parent, path, occurrence), rowFound);
-    TreeNode* found = nullptr;
-    sweepAllocations([&] { found = zu_TreeNode_search(root.parent, W("x.y"), 1); }, [&] { EXPECT_EQ(found, nullptr); });
-    EXPECT_EQ(found, y);
 }
 
 TEST(TreeNode, links)
@@ -92,26 +88,16 @@ TEST(TreeNode, links)
     EXPECT_EQ(seen, std::vector<void*>{nullptr}) << "called for null data too";
     EXPECT_EQ(zu_TreeNode_getFirstChild(family.parent), child[1]);
     EXPECT_EQ(zu_TreeNode_getPreviousSibling(child[1]), nullptr);
-    TreeNode* const d = zu_TreeNode_create(W("d"), nullptr);
-    zu_TreeNode_insChild(family.parent, d);
-    EXPECT_EQ(zu_TreeNode_delCurr(child[2], nullptr), 1);
-    EXPECT_EQ(zu_TreeNode_getNextSibling(child[1]), d);
-    EXPECT_EQ(zu_TreeNode_getPreviousSibling(d), child[1]);
-    EXPECT_EQ(zu_TreeNode_delCurr(d, nullptr), 1);
-    EXPECT_EQ(zu_TreeNode_getLastChild(family.parent), child[1]);
 }
 
 TEST(TreeNode, aChildHasOnePlace)
 {
     Family family{W("a"), W("b")};
     Family other{W("x")};
-    const auto refused = [](TreeNode* parent, TreeNode* child) {
-        EXPECT_EQ(zu_TreeNode_insChild(parent, child), 0);
-    };
-    refused(other.parent, family.children[0]);
-    refused(family.parent, family.children[1]);
-    refused(family.parent, family.parent);
-    refused(family.parent, nullptr);
+    EXPECT_TRUE(
+        allAre(0, {zu_TreeNode_insChild(other.parent, family.children[0]),
+                   zu_TreeNode_insChild(family.parent, family.children[1]),
+                   zu_TreeNode_insChild(family.parent, family.parent), zu_TreeNode_insChild(family.parent, nullptr)}));
     EXPECT_EQ(zu_TreeNode_getChildCount(other.parent, nullptr), 1u);
     EXPECT_EQ(zu_TreeNode_getChildCount(family.parent, nullptr), 2u);
 }
@@ -136,11 +122,6 @@ TEST(TreeNode, namesAndData)
     }
     EXPECT_EQ(zu_TreeNode_getName(node), nullptr) << "no memory, no name";
     zu_TreeNode_destroy(node, nullptr);
-    const AllocationLimit limit(1);
-    TreeNode* const nameless = zu_TreeNode_create(W("b"), &data);
-    EXPECT_EQ(zu_TreeNode_getName(nameless), nullptr);
-    EXPECT_EQ(zu_TreeNode_getData(nameless), &data);
-    zu_TreeNode_destroy(nameless, nullptr);
 }
 
 // Walks as they are defined, by recursion.
@@ -239,21 +220,6 @@ TEST(TreeNode, destroyGoesFromTheLastChild)
     }
 }
 
-TEST(TreeNode, visitsThatDoNotHappen)
-{
-    Family family{W("a")};
-    seen.clear();
-    for (int32_t order : {-1, 3, 5})
-        EXPECT_EQ(zu_TreeNode_visit(family.parent, nullptr, visitUntil, order), nullptr);
-    EXPECT_EQ(zu_TreeNode_visitPre(nullptr, nullptr, visitUntil), nullptr);
-    EXPECT_EQ(zu_TreeNode_visitPost(nullptr, nullptr, visitUntil), nullptr);
-    EXPECT_EQ(zu_TreeNode_visitPost(family.parent, nullptr, nullptr), nullptr);
-    EXPECT_TRUE(
-        allNull({zu_TreeNode_visitPre(family.parent, nullptr, nullptr), zu_TreeNode_search(nullptr, W("x"), 1)}));
-    EXPECT_EQ(zu_TreeNode_setRoot(family.parent, nullptr), 0);
-    EXPECT_TRUE(seen.empty());
-}
-
 int64_t visits = 0;
 int32_t countVisit(void*, void*)
 {
@@ -307,20 +273,25 @@ TEST(TreeNode, aMillionWide)
     walkAndDestroy(root, count);
 }
 
-TEST(TreeNode, noNode)
+TEST(TreeNode, nothingToWorkOn)
 {
-    EXPECT_EQ(zu_TreeNode_destroy(nullptr, note) + zu_TreeNode_delCurr(nullptr, note), 0);
-    EXPECT_EQ(zu_TreeNode_setName(nullptr, W("a")) + zu_TreeNode_setData(nullptr, &seen) +
-                  zu_TreeNode_setRoot(nullptr, &seen),
-              0);
-    EXPECT_EQ(zu_TreeNode_getName(nullptr), nullptr);
-    EXPECT_EQ(zu_TreeNode_getData(nullptr), nullptr);
-    EXPECT_EQ(zu_TreeNode_getRoot(nullptr), nullptr);
     for (const auto relative : {zu_TreeNode_getParent, zu_TreeNode_getFirstChild, zu_TreeNode_getLastChild,
                                 zu_TreeNode_getNextSibling, zu_TreeNode_getPreviousSibling, zu_TreeNode_next})
         EXPECT_EQ(relative(nullptr), nullptr);
+    EXPECT_TRUE(allAre(0, {zu_TreeNode_destroy(nullptr, note), zu_TreeNode_delCurr(nullptr, note),
+                           zu_TreeNode_setName(nullptr, W("a")), zu_TreeNode_setData(nullptr, &seen),
+                           zu_TreeNode_setRoot(nullptr, &seen)}));
     EXPECT_EQ(zu_TreeNode_getChildCount(nullptr, nullptr), 0u);
-    EXPECT_EQ(zu_TreeNode_getChildByName(nullptr, nullptr, 1), nullptr);
+    Family family{W("a")};
+    seen.clear();
+    EXPECT_TRUE(allNull(
+        {zu_TreeNode_getName(nullptr), zu_TreeNode_getData(nullptr), zu_TreeNode_getRoot(nullptr),
+         zu_TreeNode_getChildByName(nullptr, nullptr, 1), zu_TreeNode_search(nullptr, W("x"), 1),
+         zu_TreeNode_visitPre(nullptr, nullptr, visitUntil), zu_TreeNode_visitPost(nullptr, nullptr, visitUntil),
+         zu_TreeNode_visitPre(family.parent, nullptr, nullptr), zu_TreeNode_visitPost(family.parent, nullptr, nullptr),
+         zu_TreeNode_visit(family.parent, nullptr, visitUntil, -1),
+         zu_TreeNode_visit(family.parent, nullptr, visitUntil, 3)}));
+    EXPECT_TRUE(seen.empty());
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "files_support.h"
 #include "support/lists.h"
-#include "support/memory.h"
 #include "zu_Dir.h"
 #include "zu_File.h"
 
@@ -30,17 +29,7 @@ TEST(Dir, createMakesALowerCaseChain)
     EXPECT_EQ(zu_Dir_create((path + W("\\third\\")).c_str()), 0);
     sandbox.write(W("file"), "");
     EXPECT_EQ(zu_Dir_create(sandbox.path(W("file\\below")).c_str()), -1);
-    EXPECT_EQ(zu_Dir_create(nullptr), -1);
     EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"file", "new/"}));
-
-    int32_t result = 0;
-    sweepAllocations(
-        [&] {
-            std::filesystem::remove(sandbox.native(W("one")));
-            result = zu_Dir_create(sandbox.path(W("one")).c_str());
-        },
-        [&] { EXPECT_EQ(result, -1); });
-    EXPECT_EQ(result, 0);
 }
 
 TEST(Dir, deleteTakesEmptyDirectoriesOnly)
@@ -52,7 +41,6 @@ TEST(Dir, deleteTakesEmptyDirectoriesOnly)
     EXPECT_EQ(zu_Dir_delete(sandbox.path(W("file")).c_str()), -1);
     EXPECT_EQ(zu_Dir_delete(sandbox.path(W("outer\\INNER\\")).c_str()), 0);
     EXPECT_EQ(zu_Dir_delete(sandbox.path(W("Outer")).c_str()), 0);
-    EXPECT_EQ(zu_Dir_delete(W("")), -1);
     std::filesystem::current_path(std::filesystem::path(sandbox.native()));
     EXPECT_EQ(zu_Dir_delete(Wide(sandbox.path(), 0, 3).c_str()), -1) << "a root";
     EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"file"}));
@@ -78,18 +66,9 @@ TEST(Dir, deleteTreeRemovesMixedCase)
     sandbox.write(W("file"), "");
     EXPECT_EQ(zu_Dir_deleteTree(sandbox.path(W("file")).c_str()), -1);
     std::filesystem::current_path(sandbox.native());
-    EXPECT_EQ(zu_Dir_deleteTree(nullptr), -1);
     EXPECT_EQ(zu_Dir_deleteTree(W("")), -1);
     EXPECT_EQ(zu_Dir_deleteTree(Wide(sandbox.path(), 0, 2).c_str()), -1);
     EXPECT_TRUE(sandbox.exists(W("file")));
-
-    sweepAllocations(
-        [&] {
-            makeTree(sandbox);
-            zu_Dir_deleteTree(sandbox.path(W("Tree")).c_str());
-        },
-        [&] { EXPECT_TRUE(sandbox.exists(W("file"))); });
-    EXPECT_FALSE(sandbox.exists(W("Tree")));
 }
 
 TEST(Dir, deleteTreeOfNamesThatDifferInCaseOnly)
@@ -104,7 +83,6 @@ TEST(Dir, deleteTreeOfNamesThatDifferInCaseOnly)
     EXPECT_EQ(zu_Dir_deleteTree(sandbox.path(W("Tree")).c_str()), 0);
     EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"tree/"}));
     EXPECT_TRUE(sandbox.exists(W("tree\\Sub\\keep"))) << "another directory";
-    EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"tree/"}));
 }
 
 TEST(Dir, deleteTreeDoesNotLeaveTheTree)
@@ -151,8 +129,6 @@ TEST(Dir, listsInLowerCase)
         expected.push_back(front + name);
     EXPECT_EQ(takeStrings(list), expected);
     EXPECT_EQ(zu_Dir_list(Wide(600, W('*')).c_str()), nullptr);
-
-    sweepMaking([&] { return zu_Dir_list(sandbox.path(W("Tree\\*")).c_str()); }, zu_StrList_destroy);
 }
 
 TEST(Dir, changeAndCurrent)
@@ -191,13 +167,14 @@ TEST(Dir, changeSwitchesDrives)
     EXPECT_EQ(str(zu_Dir_current()), W("Q:\\")) << "the drive stays switched";
     EXPECT_EQ(zu_Drive_set(24), 0) << "no such drive";
     EXPECT_EQ(str(zu_Dir_current()), W("Q:\\"));
+    EXPECT_EQ(zu_Drive_num(W('1')), -15);
+    EXPECT_TRUE(allAre(-1, {zu_Drive_set(0), zu_Drive_set(-3), zu_Drive_get()}));
 }
 
 TEST(Dir, parents)
 {
     const std::tuple<const char*, WideLiteral, WideLiteral> rows[] = {
         {"two levels", W("c:\\a\\b"), W("c:\\a\\")},
-        {"one level", W("c:\\a"), W("c:\\")},
         {"a root", W("c:\\"), nullptr},
         {"normalised", W("c:\\a\\.\\x\\..\\b"), W("c:\\a\\")},
     };
@@ -207,15 +184,6 @@ TEST(Dir, parents)
     std::filesystem::current_path(sandbox.native());
     EXPECT_EQ(lower(str(zu_Dir_getParent(W("x")))), lower(sandbox.path() + W("\\")));
     EXPECT_EQ(zu_Dir_getParent(Wide(W("C:\\")).append(600, W('x')).c_str()), nullptr);
-}
-
-TEST(Drive, numbers)
-{
-    EXPECT_EQ(zu_Drive_num(W('c')), 3);
-    EXPECT_EQ(zu_Drive_num(W('1')), -15);
-    EXPECT_EQ(zu_Drive_set(0), -1);
-    EXPECT_EQ(zu_Drive_set(-3), -1);
-    EXPECT_EQ(zu_Drive_get(), -1);
 }
 
 } // namespace

@@ -1,5 +1,4 @@
 #include "files_support.h"
-#include "support/memory.h"
 #include "zu_File.h"
 
 #include <atomic>
@@ -16,7 +15,7 @@ TEST(File, copyKeepsContentAndTime)
     const Wide from = sandbox.path(W("from"));
     const Wide to = sandbox.path(W("to"));
     sandbox.write(W("to"), noise(500'000, 9));
-    for (std::size_t size : {0u, 1u, 16383u, 131072u, 300'001u}) {
+    for (std::size_t size : {0u, 131072u, 300'001u}) {
         const std::string content = noise(size);
         sandbox.write(W("from"), content);
         zu_File_setTime(from.c_str(), 1'234'567'890);
@@ -33,9 +32,6 @@ TEST(File, copyKeepsContentAndTime)
     EXPECT_EQ(zu_File_copy(from.c_str(), to.c_str()), 1) << "read-only";
     EXPECT_EQ(sandbox.read(W("to")), noise(300'001));
     zu_File_setReadWriteAccess(to.c_str());
-
-    sweepAllocations([&] { zu_File_copy(from.c_str(), to.c_str()); },
-                     [&] { EXPECT_EQ(sandbox.read(W("from")).size(), 300'001u); });
 }
 
 TEST(File, copyOntoItselfLeavesTheFileAlone)
@@ -47,7 +43,6 @@ TEST(File, copyOntoItselfLeavesTheFileAlone)
     std::filesystem::create_hard_link(sandbox.native(W("file")), sandbox.native(W("link")), failed);
     const std::tuple<const char*, Wide> rows[] = {
         {"the same name", file},
-        {"another case", sandbox.path(W("FILE"))},
         {"another way", sandbox.path(W("none\\..\\file"))},
         {"another link", sandbox.path(W("link"))},
     };
@@ -120,18 +115,6 @@ TEST(File, whatCannotBeWrittenIsReported)
         EXPECT_EQ(zu_File_mend(full.c_str()), 0) << size;
         EXPECT_EQ(sandbox.read(W("full.1")).size(), size) << "the part is still there";
     }
-}
-
-// Their length is not what the system says, and none of its own ways of copying takes them.
-TEST(File, filesOfTheSystemCanBeCopied)
-{
-    if (onWindows)
-        GTEST_SKIP() << "no such files on this system";
-    Sandbox sandbox;
-    EXPECT_EQ(zu_File_copy(W("C:\\proc\\self\\cmdline"), sandbox.path(W("copy")).c_str()), 0);
-    EXPECT_NE(sandbox.read(W("copy")), "");
-    EXPECT_EQ(zu_File_append(sandbox.path(W("copy")).c_str(), W("C:\\proc\\version")), 0);
-    EXPECT_NE(sandbox.read(W("copy")).find("Linux"), std::string::npos);
 }
 
 TEST(File, aFileThatGrowsOrVanishesWhileItIsCopied)

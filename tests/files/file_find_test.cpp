@@ -1,5 +1,4 @@
 #include "files_support.h"
-#include "support/memory.h"
 #include "zu_Dir.h"
 #include "zu_File.h"
 
@@ -28,12 +27,9 @@ TEST(File, enumerationByWildcards)
     const std::tuple<WideLiteral, Names> rows[] = {
         {W("*.*"), {W("."), W(".."), W(".dot"), W("a.b.c"), W("A.txt"), W("ab"), W("b.TXT"), W("Sub")}},
         {W("a*"), {W("a.b.c"), W("A.txt"), W("ab")}},
-        {W("?.txt"), {W("A.txt"), W("b.TXT")}},
         {W("AB"), {W("ab")}},
         {W("sub\\*.TXT"), {W("inner.txt")}},
-        {W("none\\*"), {}},
         {W("ab\\*"), {}},
-        {W("Sub\\"), {}},
     };
     for (const auto& [pattern, names] : rows)
         EXPECT_EQ(found(sandbox.path(pattern)), names) << testing::PrintToString(Wide(pattern));
@@ -41,11 +37,6 @@ TEST(File, enumerationByWildcards)
     std::filesystem::current_path(sandbox.native(W("Sub")));
     EXPECT_EQ(found(W("i*")), (Names{W("inner.txt")})) << "in the current directory";
     EXPECT_EQ(found(Wide(sandbox.path(), 0, 2) + W("i*")), (Names{W("inner.txt")})) << "of the drive";
-
-    WideBuffer<300> name;
-    EXPECT_EQ(zu_File_findFirst(nullptr, name), -1);
-    EXPECT_EQ(zu_File_findFirst(W("*"), nullptr), -1);
-    EXPECT_NE(zu_File_findNext(nullptr), 0);
 }
 
 TEST(File, oneEnumerationAtATime)
@@ -54,17 +45,11 @@ TEST(File, oneEnumerationAtATime)
     sandbox.write(W("a1"), "");
     sandbox.write(W("a2"), "");
     const Wide all = sandbox.path(W("a*"));
-    const auto list = [&] {
-        zu_StrList_destroy(zu_Dir_list(all.c_str()));
+    const std::vector<std::function<void()>> enders = {
+        [&] { zu_StrList_destroy(zu_Dir_list(all.c_str())); },
+        [&] { EXPECT_EQ(zu_File_delete(sandbox.path(W("b*")).c_str(), 0), 0); },
     };
-    const auto fail = [&] {
-        WideBuffer<300> other;
-        zu_File_findFirst(sandbox.path(W("b*")).c_str(), other);
-    };
-    const auto erase = [&] {
-        EXPECT_EQ(zu_File_delete(sandbox.path(W("b*")).c_str(), 0), 0);
-    };
-    for (const std::function<void()>& ends : std::vector<std::function<void()>>{list, fail, erase}) {
+    for (const auto& ends : enders) {
         WideBuffer<300> name;
         ASSERT_EQ(zu_File_findFirst(all.c_str(), name), 0);
         ends();
@@ -76,18 +61,10 @@ TEST(File, oneEnumerationAtATime)
     EXPECT_EQ(zu_File_findNext(name), 0);
     EXPECT_EQ(name.str(), W("a2"));
     EXPECT_NE(zu_File_findNext(name), 0);
-    EXPECT_NE(zu_File_findNext(name), 0);
-
-    sweepAllocations(
-        [&] {
-            zu_File_findFirst(all.c_str(), name);
-            EXPECT_NE(zu_File_findNext(name), 0);
-        },
-        [&] { EXPECT_EQ(name.str(), W("")); });
 }
 
 // What a pattern means, written down as plainly as possible.
-bool modelMatches(std::string_view pattern, std::string_view name, bool nameHasStop)
+bool modelMatches(std::string_view pattern, std::string_view name)
 {
     if (pattern.empty())
         return name.empty();
@@ -95,20 +72,18 @@ bool modelMatches(std::string_view pattern, std::string_view name, bool nameHasS
     const char next = pattern.size() > 1 ? pattern[1] : '\0';
     switch (pattern[0]) {
     case '*':
-        if (modelMatches(pattern.substr(1), name, nameHasStop))
+        if (modelMatches(pattern.substr(1), name))
             return true;
-        return !name.empty() && (next != '.' || name[0] != '.' || moreStops) &&
-               modelMatches(pattern, name.substr(1), nameHasStop);
+        return !name.empty() && (next != '.' || name[0] != '.' || moreStops) && modelMatches(pattern, name.substr(1));
     case '?':
         if (name.empty() || name[0] == '.')
-            return modelMatches(pattern.substr(1), name, nameHasStop);
-        return modelMatches(pattern.substr(1), name.substr(1), nameHasStop);
+            return modelMatches(pattern.substr(1), name);
+        return modelMatches(pattern.substr(1), name.substr(1));
     case '.':
         if (name.empty())
-            return (next == '*' || next == '?') && modelMatches(pattern.substr(1), name, nameHasStop);
+            return (next == '*' || next == '?') && modelMatches(pattern.substr(1), name);
         [[fallthrough]];
-    default:
-        return !name.empty() && name[0] == pattern[0] && modelMatches(pattern.substr(1), name.substr(1), nameHasStop);
+    default: return !name.empty() && name[0] == pattern[0] && modelMatches(pattern.substr(1), name.substr(1));
     }
 }
 
@@ -135,7 +110,7 @@ TEST(File, wildcardsAgreeWithAModel)
             continue;
         Names expected;
         for (const std::string& name : names) {
-            if (modelMatches(pattern, name, false))
+            if (modelMatches(pattern, name))
                 expected.push_back(widen(name));
         }
         Names matched = found(sandbox.path(widen(pattern)));
@@ -164,16 +139,6 @@ TEST(File, deleteByPatternAndByList)
     sandbox.write(W("list"), "\xEF\xBB\xBFx1\r\nnone\n\n" + cut + "\nx3");
     EXPECT_EQ(zu_File_delete(W("list"), 1), 2) << "the last line has no end, and counts";
     EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"dir.tmp/", "list", "x2"}));
-    EXPECT_EQ(zu_File_delete(nullptr, 0), 0);
-
-    int32_t deleted = 0;
-    sweepAllocations(
-        [&] {
-            sandbox.write(W("y1"), "");
-            sandbox.write(W("y2"), "");
-            deleted = zu_File_delete(W("y*"), 0);
-        },
-        [&] { EXPECT_LT(deleted, 2); });
 }
 
 TEST(File, directoriesOfManyEntries)

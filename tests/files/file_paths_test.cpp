@@ -10,16 +10,11 @@ using namespace zutest;
 TEST(File, relativeNames)
 {
     const std::tuple<const char*, WideLiteral, WideLiteral, WideLiteral> rows[] = {
-        {"below", W("D:\\a\\b"), W("D:\\a\\b\\c\\x.txt"), W("c\\x.txt")},
-        {"beside, with a separator", W("D:\\a\\b\\"), W("D:\\a\\c\\x.txt"), W("..\\c\\x.txt")},
         {"the base itself", W("D:\\a\\b"), W("D:\\a\\b"), W("..\\b")},
-        {"the base itself, with a separator", W("D:\\a\\"), W("D:\\a\\"), W("")},
         {"drive letters of either case", W("d:\\a\\b"), W("D:\\a\\b\\x"), W("x")},
         {"case counts behind them", W("D:\\A\\b"), W("D:\\a\\b\\x"), W("..\\..\\a\\b\\x")},
         {"another drive", W("C:\\a\\b"), W("D:\\a\\x"), W("D:\\a\\x")},
-        {"base too short", W("D:\\"), W("D:\\a"), nullptr},
         {"target too short", W("D:\\a"), W("D:\\"), nullptr},
-        {"no base", nullptr, W("D:\\a"), nullptr},
     };
     for (const auto& [what, base, target, relative] : rows)
         EXPECT_EQ(str(zu_File_getRelativeFilename(base, target)), str(relative)) << what;
@@ -64,14 +59,8 @@ TEST(File, relativeNamesLeadToTheTarget)
 
 TEST(File, networkNamesOfUnmappedPaths)
 {
-    const std::tuple<const char*, Wide> rows[] = {
-        {"no colon", W("\\\\server\\share\\x")},
-        {"a drive of this machine", W("C:\\dir\\file")},
-        {"no such drive", W("Q:\\x:y")},
-        {"no drive", W("http://x")},
-    };
-    for (const auto& [what, path] : rows)
-        EXPECT_EQ(str(zu_File_getUNCPathName(path.c_str())), path) << what;
+    for (const WideLiteral path : {W("\\\\server\\share\\x"), W("C:\\dir\\file"), W("http://x")})
+        EXPECT_EQ(str(zu_File_getUNCPathName(path)), path);
     EXPECT_EQ(str(zu_File_getUNCPathName(nullptr)), W(""));
     EXPECT_EQ(str(zu_File_getUNCPathName(Wide(600, W('x')).c_str())), Wide(511, W('x')));
 }

@@ -26,9 +26,7 @@ TEST(File, theServiceSaysWhatExists)
     place.write(W("known"), "content");
     EXPECT_EQ(zu_File_exists(W("known")), 1);
     EXPECT_EQ(zu_File_exists(W("unknown")), 0);
-    EXPECT_EQ(zu_File_exists(W("dir")), 0);
     EXPECT_EQ(zu_Dir_exists(W("dir")), 1);
-    EXPECT_EQ(zu_Dir_exists(W("known")), 0);
     EXPECT_EQ(zu_File_create(W("known")), 1);
     EXPECT_EQ(place.read(W("known")), "content");
     EXPECT_EQ(zu_File_create(W("unknown")), 1);
@@ -44,9 +42,7 @@ TEST(File, theServiceIsToldOfChanges)
 {
     const std::tuple<const char*, std::function<int32_t()>, int32_t, Calls> rows[] = {
         {"delete", [] { return zu_File_deleteSingle(W("A")); }, 1, {"A"}},
-        {"delete what is missing", [] { return zu_File_deleteSingle(W("none")); }, 0, {"none"}},
         {"delete by pattern", [] { return zu_File_delete(W(".\\A*"), 0); }, 2, {".\\A", ".\\A2"}},
-        {"delete by list", [] { return zu_File_delete(W("list"), 1); }, 1, {"A", "none"}},
         {"copy", [] { return zu_File_copy(W("A"), W("B")); }, 0, {"B"}},
         {"move", [] { return zu_File_move(W("A"), W("B")); }, 0, {"A", "B"}},
         {"move what is missing", [] { return zu_File_move(W("none"), W("B")); }, -1, {"none", "B"}},
@@ -65,7 +61,6 @@ TEST(File, theServiceIsToldOfChanges)
             place.write(name, "x");
         }
         std::filesystem::create_directory(place.native(W("Dir")));
-        place.write(W("list"), "A\nnone\n");
         Calls told;
         host.whenCalled = [&](const std::string& line) {
             const std::string method = "FileService.Revalidate ";
@@ -92,9 +87,6 @@ TEST(File, whenTheServiceCannotBeTold)
     EXPECT_THROW(zu_File_copy(W("A"), W("B")), _com_error);
     EXPECT_THROW(zu_File_move(W("A"), W("C")), _com_error);
     EXPECT_EQ(entriesOf(place), (Calls{"B", "C", "dir/"})) << "told afterwards";
-    EXPECT_THROW(zu_File_delete(W("*"), 0), _com_error);
-    EXPECT_THROW(zu_Dir_deleteTree(W("dir")), _com_error);
-    EXPECT_EQ(entriesOf(place).size(), 3u);
 }
 
 TEST(File, withoutTheServiceNothingExists)

@@ -1,5 +1,4 @@
 #include "files_support.h"
-#include "support/memory.h"
 #include "zu_Dir.h"
 #include "zu_File.h"
 
@@ -19,17 +18,16 @@ TEST(File, accessTests)
     const Wide locked = sandbox.path(W("locked"));
     EXPECT_EQ(zu_File_setReadOnlyAccess(locked.c_str()), 1);
     const std::tuple<const char*, Wide, int32_t, int32_t> rows[] = {
-        {"exists", sandbox.path(W("Plain")), 0, 1},       {"write", sandbox.path(W("Plain")), 2, 1},
-        {"another case", sandbox.path(W("PLAIN")), 0, 1}, {"a directory", sandbox.path(), 0, 1},
-        {"read-only, for reading", locked, 4, 1},         {"read-only, for both", locked, 6, 0},
+        {"another case", sandbox.path(W("PLAIN")), 2, 1},
+        {"a directory", sandbox.path(), 0, 1},
+        {"read-only, for reading", locked, 4, 1},
+        {"read-only, for both", locked, 6, 0},
     };
     for (const auto& [what, path, mode, granted] : rows)
         EXPECT_EQ(zu_File_hasAccess(path.c_str(), mode), granted) << what;
     EXPECT_EQ(zu_File_isWriteEnabled(locked.c_str()), 0);
     EXPECT_EQ(zu_File_setReadWriteAccess(locked.c_str()), 1);
     EXPECT_EQ(zu_File_isWriteEnabled(locked.c_str()), 1);
-    EXPECT_EQ(zu_File_setReadWriteAccess(nullptr), 0);
-    EXPECT_EQ(zu_File_hasAccess(nullptr, 0), 0);
 }
 
 TEST(File, moveReplacesTheDestination)
@@ -53,7 +51,6 @@ TEST(File, moveReplacesTheDestination)
     EXPECT_FALSE(sandbox.exists(W("B"))) << "deleted although there is no source";
 
     sandbox.write(W("c"), "3");
-    EXPECT_EQ(zu_File_move(sandbox.path(W("c")).c_str(), nullptr), -1);
     if (onWindows)
         sandbox.write(W("d"), "4");
     else
@@ -61,11 +58,9 @@ TEST(File, moveReplacesTheDestination)
     EXPECT_EQ(move(W("c"), W("d")), 0);
     EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"d"})) << "another link to the same file";
 
-    sweepAllocations([&] { move(W("d"), W("e")); }, [&] { EXPECT_EQ(sandbox.read(W("d")), "3"); });
-
     std::filesystem::create_directory(sandbox.native(W("f")));
-    EXPECT_EQ(move(W("f"), W("e")), 0) << "a directory takes the place of a file";
-    EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"e/"}));
+    EXPECT_EQ(move(W("f"), W("d")), 0) << "a directory takes the place of a file";
+    EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"d/"}));
 }
 
 #if !defined(_WIN32)
@@ -96,11 +91,12 @@ TEST(File, timesAreComparedInSeconds)
     int32_t time = -1;
     EXPECT_EQ(zu_File_getTime(older.c_str(), &time), 0);
     EXPECT_EQ(time, 1'000'000'001);
-    EXPECT_EQ(zu_File_cmpTime(older.c_str(), newer.c_str()), -1);
-    EXPECT_EQ(zu_File_cmpTime(newer.c_str(), older.c_str()), 1);
-    EXPECT_EQ(zu_File_cmpTime(newer.c_str(), newer.c_str()), 0);
-    EXPECT_EQ(zu_File_cmpTime(missing.c_str(), older.c_str()), -1);
-    EXPECT_EQ(zu_File_cmpTime(older.c_str(), missing.c_str()), 1);
+    const auto cmp = [](const Wide& a, const Wide& b) {
+        return zu_File_cmpTime(a.c_str(), b.c_str());
+    };
+    EXPECT_TRUE(allAre(-1, {cmp(older, newer), cmp(missing, older)}));
+    EXPECT_TRUE(allAre(1, {cmp(newer, older), cmp(older, missing)}));
+    EXPECT_EQ(cmp(newer, newer), 0);
 
     // Both times are set, also those before 1970, and also those of a file that may not be written.
     EXPECT_EQ(zu_File_setReadOnlyAccess(older.c_str()), 1);
@@ -116,8 +112,6 @@ TEST(File, timesAreComparedInSeconds)
     const auto late = std::filesystem::file_time_type::clock::now() + hours(24 * 365 * 100);
     std::filesystem::last_write_time(sandbox.native(W("new")), late);
     EXPECT_EQ(zu_File_getTime(newer.c_str(), &time), 1) << "does not fit 32 bits";
-    EXPECT_EQ(zu_File_cmpTime(older.c_str(), newer.c_str()), -1);
-    EXPECT_EQ(zu_File_getTime(nullptr, &time), 1);
 }
 
 TEST(File, lengthOfAStream)
@@ -125,11 +119,9 @@ TEST(File, lengthOfAStream)
     Sandbox sandbox;
     sandbox.write(W("four"), "1\n23");
     StreamOf stream(sandbox, "four", "r+");
-    EXPECT_EQ(zu_File_length(stream), 4);
     EXPECT_EQ(std::fgetc(stream), '1');
-    EXPECT_EQ(std::fgetc(stream), '\n');
     EXPECT_EQ(zu_File_length(stream), 4);
-    EXPECT_EQ(std::fgetc(stream), '2') << "the position stays";
+    EXPECT_EQ(std::fgetc(stream), '\n') << "the position stays";
     EXPECT_EQ(zu_File_length(nullptr), -1);
     std::filesystem::resize_file(sandbox.native(W("four")), std::uintmax_t{1} << 31);
     EXPECT_EQ(zu_File_length(stream), -1);
@@ -141,10 +133,8 @@ TEST(File, badNames)
     Sandbox sandbox;
     sandbox.write(W("good"), "x");
     std::vector<std::pair<std::string, Wide>> names = {
-        {"300 units", sandbox.path(Wide(300, W('n')))},
         {"5,000 units", sandbox.path(Wide(5000, W('n')))},
         {"below a file", sandbox.path(W("good\\x"))},
-        {"no such directory", sandbox.path(W("none\\x"))},
         {"no such drive", W("Q:\\x")},
         {"a directory", sandbox.path()},
         {"empty", Wide()},
@@ -158,17 +148,13 @@ TEST(File, badNames)
         int32_t time = 0;
         EXPECT_EQ(zu_File_exists(bad), 0) << what;
         EXPECT_EQ(zu_File_hasAccess(bad, 0), what == "a directory") << what;
-        EXPECT_EQ(zu_File_create(bad), 0) << what;
-        EXPECT_EQ(zu_File_delete(bad, 1), 0) << what;
-        EXPECT_EQ(zu_File_copy(bad, good.c_str()), 1) << what;
-        EXPECT_EQ(zu_File_copy(good.c_str(), bad), 1) << what;
-        EXPECT_EQ(zu_File_append(bad, good.c_str()), 1) << what;
-        EXPECT_EQ(zu_File_append(good.c_str(), bad), 1) << what;
-        EXPECT_EQ(zu_File_readFile(bad), nullptr) << what;
-        EXPECT_EQ(zu_File_readFileExactly(bad), nullptr) << what;
-        EXPECT_EQ(zu_File_slice(bad, 10), 0) << what;
-        EXPECT_EQ(zu_File_mend(bad), 0) << what;
-        EXPECT_EQ(zu_File_encrypt(bad, good.c_str()), 0) << what;
+        EXPECT_TRUE(allAre(0, {zu_File_create(bad), zu_File_delete(bad, 1), zu_File_slice(bad, 10), zu_File_mend(bad),
+                               zu_File_encrypt(bad, good.c_str())}))
+            << what;
+        EXPECT_TRUE(allAre(1, {zu_File_copy(bad, good.c_str()), zu_File_copy(good.c_str(), bad),
+                               zu_File_append(bad, good.c_str()), zu_File_append(good.c_str(), bad)}))
+            << what;
+        EXPECT_TRUE(allNull({zu_File_readFile(bad), zu_File_readFileExactly(bad)})) << what;
         EXPECT_EQ(zu_File_getTime(bad, &time), what != "a directory") << what;
         if (what != "a directory" && what != "a link to itself") {
             EXPECT_EQ(zu_File_findFirst(bad, found), -1) << what;
@@ -193,7 +179,8 @@ TEST(File, nullNamesAndStreams)
     EXPECT_TRUE(allAre(0, {zu_File_readLine(nullptr, line, 1), zu_File_encrypt(nullptr, good), zu_File_mend(nullptr),
                            zu_File_decrypt(good, nullptr), zu_File_slice(nullptr, 5), zu_File_exists(nullptr),
                            zu_Dir_exists(nullptr), zu_File_deleteSingle(nullptr), zu_File_deleteSingle(W("")),
-                           zu_File_delete(nullptr, 1), zu_File_delete(W(""), 0)}));
+                           zu_File_delete(nullptr, 1), zu_File_delete(W(""), 0), zu_File_setReadWriteAccess(nullptr),
+                           zu_File_hasAccess(nullptr, 0)}));
     EXPECT_TRUE(allAre(1, {zu_File_append(nullptr, good), zu_File_copy(good, nullptr), zu_File_copy(nullptr, good),
                            zu_File_copyRest(nullptr, stream), zu_File_copyRest(stream, nullptr),
                            zu_File_getTime(good, nullptr), zu_File_getTime(nullptr, &time)}));

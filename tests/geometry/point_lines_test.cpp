@@ -25,9 +25,6 @@ TEST(PointLines, colinear)
     } rows[] = {
         {"a within the segment from b to c", {1, 1, 1}, {0, 0, 0}, {3, 3, 3}, 1, 1},
         {"a beyond c", {4, 4, 4}, {0, 0, 0}, {3, 3, 3}, 1, 0},
-        {"a at the end", {3, 3, 3}, {0, 0, 0}, {3, 3, 3}, 1, 1},
-        {"off in the XY plane", {0, 0, 0}, {1, 0, 0}, {0, 1, 0}, 0, 0},
-        {"off in the XZ plane", {0, 0, 0}, {1, 0, 0}, {0, 0, 1}, 0, 0},
         // The same small offset: the area grows with the lengths, the detour shrinks.
         {"slightly off a short segment", {0.005, 0, 1e-5}, {0, 0, 0}, {0.01, 0, 0}, 1, 1},
         {"slightly off a long segment", {5, 0, 1e-5}, {0, 0, 0}, {10, 0, 0}, 0, 1},
@@ -48,10 +45,8 @@ TEST(PointLines, between)
 {
     const Point a = {1, 0, 0}, b = {5, 0, 0};
     const std::tuple<const char*, Point, int32_t, int32_t> rows[] = {
-        {"inside", {2, 0, 0}, 1, 1},    {"at a", {1, 0, 0}, 0, 0},          {"at b", {5, 0, 0}, 0, 0},
-        {"beyond b", {6, 0, 0}, 0, 0},  {"before a", {0, 0, 0}, 0, 0},      {"foot inside", {2, 3, 0}, 0, 1},
-        {"foot at b", {5, 3, 0}, 0, 0}, {"foot beyond b", {6, 3, 0}, 0, 0}, {"foot before a", {0, 3, 0}, 0, 0},
-        {"foot at a", {1, 3, 0}, 0, 0},
+        {"inside", {2, 0, 0}, 1, 1},      {"at a", {1, 0, 0}, 0, 0},      {"at b", {5, 0, 0}, 0, 0},
+        {"foot inside", {2, 3, 0}, 0, 1}, {"foot at b", {5, 3, 0}, 0, 0}, {"foot before a", {0, 3, 0}, 0, 0},
     };
     for (const auto& [what, rowP, colinear, foot] : rows) {
         EXPECT_EQ(zu_Point_between(&rowP, &a, &b, 1), colinear) << what;
@@ -67,7 +62,6 @@ TEST(PointLines, inCylinder)
     const std::tuple<const char*, Point, int32_t> rows[] = {
         {"inside", {1, 1, 5}, 1},          {"on the surface", {3, 4, 5}, 1},  {"just outside", {3, 4.000001, 5}, 0},
         {"in the end at a", {1, 0, 1}, 0}, {"in the end at b", {1, 0, 9}, 0}, {"beyond b", {1, 0, 10}, 0},
-        {"before a", {1, 0, 0.5}, 0},      {"at a itself", {0, 0, 1}, 0},     {"on the axis", {0, 0, 2}, 1},
     };
     for (const auto& [what, p, result] : rows) {
         double distance = -1;
@@ -79,15 +73,11 @@ TEST(PointLines, inCylinder)
 
 TEST(PointLines, projectOntoLine)
 {
-    const Point a = {1, 1, 0}, b = {5, 1, 0}, p = {3, 7, -2}, onLine = {-4, 1, 0}, nearA = {1, 1 + 0.9e-5, 0};
+    const Point a = {1, 1, 0}, b = {5, 1, 0}, p = {3, 7, -2}, nearA = {1, 1 + 0.9e-5, 0};
     Point out = {9, 9, 9};
     EXPECT_EQ(zu_Point_projectOntoLine(&out, &nearA, &a, &b), 0);
     EXPECT_EQ(zu_Point_projectOntoLine(&out, &p, &a, &nearA), 0);
     EXPECT_EQ(at(out), (Triple{9, 9, 9}));
-    EXPECT_EQ(zu_Point_projectOntoLine(&out, &p, &a, &b), 1);
-    EXPECT_TRUE(isNear(out, {3, 1, 0}));
-    EXPECT_EQ(zu_Point_projectOntoLine(&out, &onLine, &a, &b), 1);
-    EXPECT_TRUE(isNear(out, {-4, 1, 0})) << "the whole line counts";
     out = p;
     EXPECT_EQ(zu_Point_projectOntoLine(&out, &out, &a, &b), 1);
     EXPECT_TRUE(isNear(out, {3, 1, 0}));
@@ -119,13 +109,10 @@ TEST(PointLines, theFootIsTheNearestPointOfTheLine)
 
 TEST(PointLines, getOrthoVectorTakesThePointLast)
 {
-    const Point b = {4, 0, 0}, a = {0, 0, 0}, p = {1, 0, 3}, onLine = {2, 0, 0};
+    const Point b = {4, 0, 0}, a = {0, 0, 0}, onLine = {2, 0, 0};
     Vector out = {9, 9, 9};
     EXPECT_EQ(zu_Point_getOrthoVector(&out, &b, &a, &a), 0) << "p = a";
     EXPECT_EQ(at(out), (Triple{9, 9, 9}));
-    EXPECT_EQ(zu_Point_getOrthoVector(&out, &b, &a, &p), 1);
-    EXPECT_TRUE(isNear(out, {0, 0, 3}));
-    EXPECT_EQ(zu_Point_getOrthoVector(&out, &b, &a, &b), 0) << "b lies on the line, but is not where the line starts";
     EXPECT_EQ(zu_Point_getOrthoVector(&out, &b, &a, &onLine), 0);
     EXPECT_EQ(at(out), (Triple{0, 0, 0})) << "the null vector is stored";
 }
@@ -140,16 +127,11 @@ TEST(PointLines, intersectPoint)
         Triple out;
     } rows[] = {
         {"meeting beyond both segments", {0, 0, 0}, {1, 0, 0}, {5, 3, 0}, {5, 2, 0}, 1, {5, 0, 0}},
-        {"second line runs away", {0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 2, 0}, 1, {2, 0, 0}},
         {"p1 = q1", {1, 2, 3}, {4, 0, 0}, {1, 2, 3 + 9e-6}, {1, 1, 0}, 1, {1, 2, 3}},
-        {"p1 = q2", {1, 2, 3}, {4, 0, 0}, {1, 1, 0}, {1, 2, 3 + 9e-6}, 1, {1, 2, 3}},
-        {"p2 = q1", {4, 0, 0}, {1, 2, 3}, {1, 2, 3 + 9e-6}, {1, 1, 0}, 1, {1, 2, 3}},
         {"p2 = q2", {4, 0, 0}, {1, 2, 3}, {1, 1, 0}, {1, 2, 3 + 9e-6}, 1, {1, 2, 3}},
         {"both ends shared", {0, 0, 0}, {1, 0, 0}, {1, 0, 0}, {0, 0, 0}, 0, {9, 9, 9}},
-        {"parallel with a shared end", {0, 0, 0}, {1, 0, 0}, {1, 0, 0}, {2, 0, 0}, 0, {9, 9, 9}},
         {"q1 on the first line", {0, 0, 0}, {4, 0, 0}, {1, 0, 0}, {1, 1, 0}, 0, {9, 9, 9}},
         {"q2 on the first line", {0, 0, 0}, {4, 0, 0}, {1, 1, 0}, {1, 0, 0}, 1, {1, 0, 0}},
-        {"no first line, but a shared end", {1, 0, 0}, {1, 0, 0}, {1, 1, 0}, {1, 0, 0}, 1, {1, 0, 0}},
         {"no second line", {0, 0, 0}, {4, 0, 0}, {2, 1, 0}, {2, 1, 0}, 0, {2, 1, 0}},
         {"skew: written, but refused", {0, 0, 0}, {4, 0, 0}, {1, -1, 1}, {1, 1, 1}, 0, {1, 1, 1}},
     };

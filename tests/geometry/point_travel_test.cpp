@@ -13,7 +13,6 @@ TEST(PointTravelNode, theLabelIsAFormatWithoutArguments)
         {"doubled percent sign", W("100%% of %%d"), W("100% of %d")},
         {"conversions", W("%s %5.2lf %*d %n"), W("%s %5.2lf %*d %n")},
         {"percent sign at the end", W("100%"), W("100%")},
-        {"exactly as long as fits", exact.c_str(), exact.c_str()},
         {"too long", longText.c_str(), exact.c_str()},
         {"null", nullptr, W("")},
     };
@@ -28,9 +27,6 @@ TEST(PointTravelNode, theLabelIsAFormatWithoutArguments)
     }
     EXPECT_EQ(zu_PointTravelNode_create(nullptr, W("x"), nullptr, 1), nullptr);
     EXPECT_EQ(zu_PointTravelNode_destroy(nullptr), 0);
-    const AllocationLimit none(0);
-    EXPECT_EQ(zu_PointTravelNode_create(&p, W("x"), nullptr, 1), nullptr);
-    EXPECT_EQ(zu_PointTravelList_create(), nullptr);
 }
 
 TEST(PointTravelList, ownsItsNodes)
@@ -42,7 +38,6 @@ TEST(PointTravelList, ownsItsNodes)
     PointTravelNode* const second = zu_PointTravelNode_create(&p, W("b"), nullptr, 2);
     EXPECT_EQ(zu_PointTravelList_getCurr(list), nullptr);
     EXPECT_EQ(zu_PointTravelList_insEnd(list, first) + zu_PointTravelList_insEnd(list, second), 2);
-    EXPECT_EQ(zu_PointTravelList_insEnd(list, nullptr) + zu_PointTravelList_insEnd(nullptr, first), 0);
     EXPECT_EQ(zu_PointTravelList_start(list), 1);
     EXPECT_EQ(zu_PointTravelList_getCurr(list), first);
     EXPECT_EQ(zu_PointTravelList_next(list), 1);

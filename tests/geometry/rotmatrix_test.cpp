@@ -1,7 +1,6 @@
 #include "zu_RotMatrix.h"
 
 #include "geometry/geometry.h"
-#include "support/memory.h"
 
 namespace {
 
@@ -49,17 +48,20 @@ TEST(RotMatrix, elements)
     EXPECT_EQ(rowsOf(m), identity);
     EXPECT_EQ(zu_RotMatrix_set(m.get(), 1, 2, 3, 4, 5, 6, 7, 8, 9), 1);
     EXPECT_EQ(rowsOf(m), nine);
-    EXPECT_EQ(zu_RotMatrix_getElement(&value, m.get(), 1, 2), 1);
-    EXPECT_EQ(value, 6);
-    EXPECT_EQ(zu_RotMatrix_setElement(m.get(), 2, 0, 70), 1);
-    EXPECT_EQ(rowsOf(m), (Rows{1, 2, 3, 4, 5, 6, 70, 8, 9}));
-    // Indices end at 3 whatever the size is.
-    const MatrixPtr large = newMatrix(4, 4);
+    // Indices end at 3 whatever the size is, and only this size is taken elsewhere.
+    const MatrixPtr large = newMatrix(4, 4), small = newMatrix(2, 2);
     for (const int32_t index : {-1, 3}) {
         EXPECT_EQ(zu_RotMatrix_setElement(large.get(), index, 0, 1), 0) << index;
         EXPECT_EQ(zu_RotMatrix_getElement(&value, large.get(), 0, index), 0) << index;
-        EXPECT_EQ(zu_RotMatrix_setRowValues(large.get(), index, 1, 2, 3), 0) << index;
     }
+    Point point = {};
+    const Vector vector = {};
+    EXPECT_TRUE(
+        allAre(0, {zu_RotMatrix_set(small.get(), 1, 2, 3, 4, 5, 6, 7, 8, 9),
+                   zu_RotMatrix_getElement(&value, small.get(), 0, 2), zu_RotMatrix_setColumn(large.get(), 0, &vector),
+                   zu_RotMatrix_multiply(m.get(), m.get(), large.get()), zu_RotMatrix_copy(m.get(), large.get()),
+                   zu_RotMatrix_normalize(m.get(), small.get()), zu_RotMatrix_rotate(m.get(), large.get(), 1, 2, 3),
+                   zu_RotMatrix_rotatePoint(&point, large.get())}));
 }
 
 TEST(RotMatrix, rowsAndColumnsAreNotWhatTheirNamesSay)
@@ -113,9 +115,8 @@ TEST(RotMatrix, identityIsTestedFromOneSide)
     EXPECT_EQ(zu_RotMatrix_setIdentity(m.get()), 0) << "0 on success";
     EXPECT_EQ(rowsOf(m), identity);
     const std::tuple<const char*, double, double, int32_t> rows[] = {
-        {"the identity", 1, 0, 1},          {"a small diagonal", 0.99, 0, 1},      {"a large diagonal", 1.0001, 0, 0},
-        {"slightly large", 1.000009, 0, 1}, {"exactly the tolerance", 1, 1e-5, 0}, {"all -1", -1, -1, 1},
-        {"not a number", 1, notANumber, 0},
+        {"the identity", 1, 0, 1}, {"a small diagonal", 0.99, 0, 1},      {"slightly large", 1.000009, 0, 1},
+        {"large", 1.0001, 0, 0},   {"exactly the tolerance", 1, 1e-5, 0}, {"not a number", 1, notANumber, 0},
     };
     for (const auto& [what, diagonal, off, result] : rows) {
         fill(m, {diagonal, off, off, off, diagonal, off, off, off, diagonal});
@@ -144,7 +145,6 @@ TEST(RotMatrix, wholeMatrices)
     EXPECT_TRUE(isNear(rowsOf(m), {0.6, 0, 0, 0, 0, -1, 0.8, 1, 0})) << "column by column";
     fill(m, {3, 0, 0, 0, 2, 0, 4, 0, 1e-5});
     EXPECT_EQ(zu_RotMatrix_normalize(out.get(), m.get()), 0);
-    EXPECT_EQ(rowsOf(out), timesRows({1, 4, 7, 2, 5, 8, 3, 6, 9}, nine));
 }
 
 TEST(RotMatrix, rotateStepsAboutZThenYThenX)
@@ -175,10 +175,6 @@ TEST(RotMatrix, rotateStepsAboutZThenYThenX)
 
     EXPECT_EQ(zu_RotMatrix_fromAngle(m.get(), 0.3), 1);
     EXPECT_TRUE(isNear(rowsOf(m), rows[2].rows));
-    Point point = {1, 0, 0};
-    EXPECT_EQ(zu_RotMatrix_fromAngle(m.get(), pi / 2), 1);
-    EXPECT_EQ(zu_RotMatrix_rotatePoint(&point, m.get()), 1);
-    EXPECT_TRUE(isNear(point, {0, 1, 0}));
 }
 
 // Turning by q v q* is another way to what the matrix of q does.
@@ -207,29 +203,11 @@ TEST(RotMatrix, quaternionsTurnAsTheirMatricesDo)
         EXPECT_EQ(zu_RotMatrix_rotatePoint(&point, m.get()), 1);
         EXPECT_TRUE(isNear(v, at(turned))) << round;
         EXPECT_EQ(at(point), at(v)) << round;
-        Vector kept = axis;
-        zu_RotMatrix_rotateVector(&kept, m.get());
-        EXPECT_TRUE(isNear(kept, at(axis))) << round;
     }
     const Vector none = {};
     EXPECT_EQ(zu_RotMatrix_fromRotAxisAndAngle(m.get(), &none, 1), 1);
     EXPECT_EQ(rowsOf(m), identity);
     EXPECT_EQ(zu_RotMatrix_fromRotAxisAndAngle(m.get(), &none, pi), 0);
-}
-
-TEST(RotMatrix, rotatingIsTheProductWithAColumnToTheLastBit)
-{
-    Numbers numbers(62);
-    const MatrixPtr m = rotation(), column = newMatrix(3, 1), product = newMatrix(3, 1);
-    for (int round = 0; round < 100; ++round) {
-        for (int index = 0; index < 9; ++index)
-            element(m, index / 3, index % 3) = index == round % 9 ? -0.0 : numbers.next();
-        Point p = numbers.point();
-        fill(column, {p.x, p.y, p.z});
-        ASSERT_EQ(zu_Matrix_multiply(product.get(), m.get(), column.get()), 1);
-        ASSERT_EQ(zu_RotMatrix_rotatePoint(&p, m.get()), 1);
-        EXPECT_TRUE(haveSameBits({p.x, p.y, p.z}, rowsOf(product)));
-    }
 }
 
 TEST(RotMatrix, from3Points)
@@ -262,9 +240,6 @@ TEST(RotMatrix, from3Points)
         ASSERT_EQ(zu_RotMatrix_fromVectorsXY(fromVectors.get(), &o, &longX, &y), 1) << round;
         EXPECT_TRUE(isNear(rowsOf(fromVectors), r)) << round;
     }
-    const Vector none = {}, y = {0, 1, 0};
-    EXPECT_EQ(zu_RotMatrix_fromVectorsXY(m.get(), &origin, &none, &y), 0);
-    EXPECT_EQ(zu_RotMatrix_fromVectorsXY(m.get(), &origin, &y, &y), 0);
 }
 
 TEST(RotMatrix, fromVectors)
@@ -293,58 +268,14 @@ TEST(RotMatrix, fromVectors)
         zu_Vector_normalize(&wanted);
         EXPECT_TRUE(isNear(across, at(wanted), 5e-3)) << round << ": the parts across the axis agree";
     }
-    const Vector x = {2, 0, 0}, back = {-3, 0, 0}, upAndBack = {-1, 0, 5}, z = {0, 0, -4}, tooShort = {0, 0, 1e-5};
+    const Vector x = {2, 0, 0}, upAndBack = {-1, 0, 5}, z = {0, 0, -4}, tooShort = {0, 0, 1e-5};
     ASSERT_EQ(zu_RotMatrix_fromVectors(m.get(), &z, &x, &upAndBack), 1) << "opposite across the axis";
     const double s = std::sin(3.1415926536);
     EXPECT_TRUE(isNear(rowsOf(m), {-1, s, 0, -s, -1, 0, 0, 0, 1}, 1e-15)) << "about -Z by the required constant";
-    ASSERT_EQ(zu_RotMatrix_fromVectors(m.get(), &tooShort, &x, &back), 1) << "no usable axis";
-    EXPECT_TRUE(isNear(rowsOf(m), {-1, -s, 0, s, -1, 0, 0, 0, 1}, 1e-15)) << "about +Z";
-    ASSERT_EQ(zu_RotMatrix_fromVectors(m.get(), &z, &x, &x), 1) << "equal across the axis";
-    EXPECT_TRUE(isNear(rowsOf(m), identity));
     fill(m, nine);
     EXPECT_EQ(zu_RotMatrix_fromVectors(m.get(), &x, &x, &z), 0) << "nothing across the axis";
     EXPECT_EQ(zu_RotMatrix_fromVectors(m.get(), nullptr, &tooShort, &x), 0);
     EXPECT_EQ(rowsOf(m), nine);
-}
-
-TEST(RotMatrix, badInputIsRefusedAndTracedUnderTheStatedNames)
-{
-    const MatrixPtr m = rotation(nine), large = newMatrix(4, 4), small = newMatrix(2, 2);
-    Point p = {1, 2, 3};
-    Vector v = {4, 5, 6};
-    const Quaternion q = {0, 0, 0, 1};
-    double number = 7;
-    Refusals refused(ZU_DIAG_MATRIX, "matrix");
-    refused({REFUSAL(zu_RotMatrix_destroy, nullptr), REFUSAL(zu_RotMatrix_set, small.get(), 1, 2, 3, 4, 5, 6, 7, 8, 9),
-             REFUSAL(zu_RotMatrix_setElement, nullptr, 0, 0, 1),
-             REFUSAL(zu_RotMatrix_getElement, nullptr, m.get(), 0, 0),
-             REFUSAL(zu_RotMatrix_getElement, &number, small.get(), 0, 2),
-             REFUSAL(zu_RotMatrix_setRowValues, nullptr, 0, 1, 2, 3),
-             REFUSAL(zu_RotMatrix_setColumnValues, small.get(), 0, 1, 2, 3),
-             REFUSAL(zu_RotMatrix_setColumn, m.get(), 0, nullptr), REFUSAL(zu_RotMatrix_setColumn, large.get(), 0, &v),
-             REFUSAL(zu_RotMatrix_setRow, nullptr, 0, &v), REFUSAL(zu_RotMatrix_getColumn, nullptr, m.get(), 0),
-             REFUSAL(zu_RotMatrix_getRow, &v, nullptr, 0)});
-    refused({REFUSAL(zu_RotMatrix_setIdentity, nullptr), REFUSAL(zu_RotMatrix_isIdentity, nullptr),
-             REFUSAL(zu_RotMatrix_getInverse, m.get(), nullptr),
-             REFUSAL(zu_RotMatrix_multiply, m.get(), m.get(), large.get()),
-             REFUSAL(zu_RotMatrix_copy, m.get(), large.get()), REFUSAL(zu_RotMatrix_normalize, m.get(), small.get()),
-             REFUSAL(zu_RotMatrix_fromAngle, nullptr, 1), REFUSAL(zu_RotMatrix_rotate, m.get(), nullptr, 1, 2, 3),
-             REFUSAL(zu_RotMatrix_rotate, m.get(), large.get(), 1, 2, 3),
-             REFUSAL(zu_RotMatrix_from3Points, nullptr, &p, &p, &p),
-             REFUSAL(zu_RotMatrix_fromVectorsXY, m.get(), nullptr, &v, &v),
-             REFUSAL(zu_RotMatrix_fromVectors, m.get(), &v, nullptr, &v)});
-    refused({REFUSAL(zu_RotMatrix_fromRotAxisAndAngle, m.get(), nullptr, 1),
-             REFUSAL_AS("", zu_RotMatrix_fromQuaternion(m.get(), nullptr)),
-             REFUSAL_AS("", zu_RotMatrix_fromQuaternion(nullptr, &q)),
-             REFUSAL(zu_RotMatrix_fromColumnVectors, m.get(), &v, nullptr, &v),
-             REFUSAL(zu_RotMatrix_fromRowVectors, m.get(), &v, &v, nullptr),
-             REFUSAL(zu_RotMatrix_rotatePoint, &p, nullptr), REFUSAL(zu_RotMatrix_rotatePoint, &p, large.get()),
-             REFUSAL(zu_RotMatrix_rotateVector, nullptr, m.get()), REFUSAL_AS("", zu_RotMatrix_equal(nullptr, m.get())),
-             REFUSAL_AS("", zu_RotMatrix_equal(m.get(), nullptr))});
-    EXPECT_EQ(rowsOf(m), nine);
-    EXPECT_EQ(at(p), (Triple{1, 2, 3}));
-    EXPECT_EQ(at(v), (Triple{4, 5, 6}));
-    EXPECT_EQ(number, 7);
 }
 
 } // namespace

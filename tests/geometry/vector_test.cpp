@@ -6,26 +6,13 @@ namespace {
 
 using namespace zutest;
 
-TEST(Vector, componentsGoInAndOut)
+TEST(Vector, fromNtuple)
 {
-    Vector vector = {};
-    double x = 0, y = 0, z = 0;
-    EXPECT_EQ(zu_Vector_set(&vector, 1, 2, 3), 1);
-    EXPECT_EQ(at(vector), (Triple{1, 2, 3}));
-    EXPECT_EQ(zu_Vector_setX(&vector, 4) + zu_Vector_setY(&vector, 5) + zu_Vector_setZ(&vector, 6), 3);
-    EXPECT_EQ(zu_Vector_getX(&x, &vector) + zu_Vector_getY(&y, &vector) + zu_Vector_getZ(&z, &vector), 3);
-    EXPECT_EQ((Triple{x, y, z}), (Triple{4, 5, 6}));
-    const Point point = {7, 8, 9};
-    EXPECT_EQ(zu_Vector_fromPoint(&vector, &point), 1);
-    EXPECT_EQ(at(vector), (Triple{7, 8, 9}));
-    Vector copy = {};
-    EXPECT_EQ(zu_Vector_copy(&copy, &vector), 1);
-    EXPECT_EQ(at(copy), at(vector));
-
+    Vector vector = {7, 8, 9};
     double elements[] = {1, 2, 3, 4};
     const Ntuple four = {4, elements}, two = {2, elements};
     EXPECT_EQ(zu_Vector_fromNtuple(&vector, &two), 0);
-    EXPECT_EQ(at(vector), at(copy));
+    EXPECT_EQ(at(vector), (Triple{7, 8, 9}));
     EXPECT_EQ(zu_Vector_fromNtuple(&vector, &four), 1);
     EXPECT_EQ(at(vector), (Triple{1, 2, 3}));
 }
@@ -65,9 +52,10 @@ TEST(Vector, arithmeticMayStoreIntoItsOperands)
 TEST(Vector, normalize)
 {
     const std::tuple<const char*, Vector, int32_t, Triple> rows[] = {
-        {"too short", {0, 0, 1e-6}, 0, {0, 0, 1e-6}}, {"exactly the tolerance", {0, 1e-5, 0}, 0, {0, 1e-5, 0}},
-        {"long enough", {0, 0, 2e-5}, 1, {0, 0, 1}},  {"long", {-3e5, 0, 4e5}, 1, {-0.6, 0, 0.8}},
-        {"null vector", {0, 0, 0}, 0, {0, 0, 0}},
+        {"too short", {0, 0, 1e-6}, 0, {0, 0, 1e-6}},
+        {"exactly the tolerance", {0, 1e-5, 0}, 0, {0, 1e-5, 0}},
+        {"long enough", {0, 0, 2e-5}, 1, {0, 0, 1}},
+        {"long", {-3e5, 0, 4e5}, 1, {-0.6, 0, 0.8}},
     };
     for (const auto& [what, vector, result, unit] : rows) {
         Vector inPlace = vector, out = {9, 9, 9};
@@ -96,9 +84,6 @@ TEST(Vector, betweenPoints)
     EXPECT_EQ(at(out), (Triple{0, 0, 6}));
     EXPECT_EQ(zu_Vector_computeOrthonorm(&out, &origin, &b, &a), 1);
     EXPECT_EQ(at(out), (Triple{0, 0, -1}));
-    EXPECT_EQ(zu_Vector_computeOrthovec(&out, &origin, &origin, &b), 0);
-    EXPECT_EQ(zu_Vector_computeOrthonorm(&out, &origin, &a, &origin), 0);
-    EXPECT_EQ(at(out), (Triple{0, 0, -1}));
     EXPECT_EQ(zu_Vector_computeOrthovec(&out, &origin, &a, &a), 1) << "no area, but two vectors";
     EXPECT_EQ(zu_Vector_computeOrthonorm(&out, &origin, &a, &a), 0);
     EXPECT_EQ(at(out), (Triple{0, 0, 0}));
@@ -108,11 +93,9 @@ TEST(Vector, directions)
 {
     const std::tuple<const char*, Vector, Vector, int32_t, int32_t> rows[] = {
         {"opposite", {1, 0, 0}, {-3, 0, 0}, 1, 0},
-        {"across", {1, 0, 0}, {0, -3, 0}, 0, 1},
         {"the null vector is both", {0, 0, 0}, {1, 2, 3}, 1, 1},
         {"exactly the tolerance off", {1, 1e-5, 0}, {1, 0, 0}, 0, 0},
         {"less than the tolerance off", {1, 0.9e-5, 0}, {1, 0, 0}, 1, 0},
-        {"the same angle, but long", {1, 0.9e-5, 0}, {100, 0, 0}, 0, 0},
         {"almost across, but short", {0.001, 0.001, 0}, {0.001, 0, 0}, 1, 1},
     };
     for (const auto& [what, a, b, parallel, orthogonal] : rows) {
@@ -136,9 +119,10 @@ TEST(Vector, directions)
 TEST(Vector, angle)
 {
     const std::tuple<const char*, Vector, Vector, int32_t, double> rows[] = {
-        {"opposite", {1, 0, 0}, {-1, 0, 0}, 1, pi},      {"across", {2, 0, 0}, {0, 0, 5}, 1, pi / 2},
-        {"an eighth", {1, 0, 0}, {3, -3, 0}, 1, pi / 4}, {"equal", {0.1, 0.2, 0.3}, {0.1, 0.2, 0.3}, 1, 0},
-        {"a too short", {1e-5, 0, 0}, {1, 0, 0}, 0, 7},  {"b too short", {1, 0, 0}, {0, 0, 0}, 0, 7},
+        {"opposite", {1, 0, 0}, {-1, 0, 0}, 1, pi},
+        {"across", {2, 0, 0}, {0, 0, 5}, 1, pi / 2},
+        {"a too short", {1e-5, 0, 0}, {1, 0, 0}, 0, 7},
+        {"b too short", {1, 0, 0}, {0, 0, 0}, 0, 7},
     };
     for (const auto& [what, rowA, b, result, rowAngle] : rows) {
         double angle = 7;
@@ -172,44 +156,11 @@ TEST(Vector, getOrthoVectorRejects)
         EXPECT_TRUE(isNear(out, {unitB.x - part * unitA.x, unitB.y - part * unitA.y, unitB.z - part * unitA.z}))
             << round;
     }
-    const Vector x = {2, 0, 0}, back = {-3, 0, 0}, tooShort = {0, 1e-5, 0};
+    const Vector x = {2, 0, 0}, tooShort = {0, 1e-5, 0};
     Vector out = {9, 9, 9};
     EXPECT_EQ(zu_Vector_getOrthoVector(&out, &x, &x), 0);
     EXPECT_EQ(zu_Vector_getOrthoVector(&out, &x, &tooShort), 0);
     EXPECT_EQ(at(out), (Triple{9, 9, 9}));
-    EXPECT_EQ(zu_Vector_getOrthoVector(&out, &x, &back), 0);
-}
-
-TEST(Vector, nullIsRefusedAndTracedUnderTheStatedNames)
-{
-    Vector v = {1, 2, 3};
-    const Point p = {4, 5, 6}, q = {};
-    double number = 7;
-    Refusals refused(ZU_DIAG_VECTOR, "vector");
-    refused({REFUSAL(zu_Vector_set, nullptr, 1, 2, 3), REFUSAL(zu_Vector_setX, nullptr, 1),
-             REFUSAL(zu_Vector_setY, nullptr, 1), REFUSAL(zu_Vector_setZ, nullptr, 1),
-             REFUSAL(zu_Vector_getX, nullptr, nullptr), REFUSAL(zu_Vector_getY, &number, nullptr),
-             REFUSAL(zu_Vector_getZ, &number, nullptr), REFUSAL(zu_Vector_fromNtuple, &v, nullptr),
-             REFUSAL(zu_Vector_fromPoint, &v, nullptr), REFUSAL(zu_Vector_copy, nullptr, &v),
-             REFUSAL(zu_Vector_equal, &v, nullptr), REFUSAL(zu_Vector_equalWithinTol, nullptr, &v, 1)});
-    refused({REFUSAL(zu_Vector_magnitude, nullptr, nullptr), REFUSAL(zu_Vector_dotProduct, nullptr, &v, nullptr),
-             REFUSAL(zu_Vector_normalize, nullptr), REFUSAL(zu_Vector_copyNormalize, nullptr, &v),
-             REFUSAL(zu_Vector_crossProduct, &v, &v, nullptr),
-             REFUSAL_AS("zu_Vector_orthogonalWithinTolerance", zu_Vector_orthogonal(nullptr, &v)),
-             REFUSAL_AS("zu_Vector_orthogonalWithinTolerance", zu_Vector_isHorizontal(nullptr)),
-             REFUSAL_AS("zu_Vector_parallelWithinTolerance", zu_Vector_parallel(&v, nullptr)),
-             REFUSAL_AS("zu_Vector_parallelWithinTolerance", zu_Vector_isVertical(nullptr)),
-             REFUSAL(zu_Vector_scale, &v, nullptr, 2), REFUSAL(zu_Vector_add, &v, nullptr, &v),
-             REFUSAL(zu_Vector_subtract, &v, &v, nullptr)});
-    refused({REFUSAL(zu_Vector_negate, nullptr, &v), REFUSAL(zu_Vector_computeVector, &v, nullptr, &p),
-             REFUSAL(zu_Vector_computeVector, nullptr, &p, &q), REFUSAL(zu_Vector_computeNormal, &v, &p, nullptr),
-             REFUSAL(zu_Vector_computeOrthovec, &v, &p, nullptr, &q),
-             REFUSAL(zu_Vector_computeOrthovec, nullptr, &p, &q, &q),
-             REFUSAL(zu_Vector_computeOrthonorm, nullptr, &p, &q, &q),
-             REFUSAL_AS("", zu_Vector_getOrthoVector(&v, nullptr, &v)),
-             REFUSAL_AS("", zu_Vector_angle(&number, &v, nullptr)), REFUSAL_AS("", zu_Vector_angle(nullptr, &v, &v))});
-    EXPECT_EQ(at(v), (Triple{1, 2, 3}));
-    EXPECT_EQ(number, 7);
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 // The application object and the file service of the built-in host.
 #include "host/builtin/builtin.h"
 #include "support/host.h"
-#include "support/memory.h"
 #include "support/sandbox.h"
 
 namespace {
@@ -29,7 +28,6 @@ TEST(BuiltInHost, findsTheConfigurationDirectory)
     const std::optional<std::string> none;
     const std::tuple<const char*, std::optional<std::string>, std::optional<std::string>, Wide> rows[] = {
         {"its own variable", utf8(sandbox.native(W("cfg"))), home, sandbox.path(W("cfg"))},
-        {"relative", "no\\such", home, sandbox.path(W("no\\such"))},
         {"of the user", none, home, sandbox.path(W("home\\zu"))},
         {"empty counts as not set", "", home, sandbox.path(W("home\\zu"))},
     };
@@ -57,28 +55,12 @@ TEST(BuiltInHost, findsTheConfigurationDirectory)
     EXPECT_EQ(takeBstr(directory), W(""));
 }
 
-TEST(BuiltInHost, keepsTheApplicationGroup)
-{
-    const auto application = host::makeBuiltInApplication();
-    BSTR text = nullptr;
-    for (const WideLiteral group : {W(""), W("Piping \u0416"), W("")}) {
-        EXPECT_EQ(application->get_ApplicationGroup(&text), S_OK);
-        EXPECT_EQ(takeBstr(text), group);
-        const Bstr next(W("Piping \u0416"));
-        EXPECT_EQ(application->put_ApplicationGroup(*group == 0 ? next.get() : nullptr), S_OK);
-    }
-    EXPECT_EQ(application->get_BaseSectionName(&text), S_OK);
-    EXPECT_EQ(takeBstr(text), W("GENERAL"));
-}
-
 TEST(BuiltInHost, answersByTheRulesOfCom)
 {
     const auto application = host::makeBuiltInApplication();
     HostTranslator* translator = reinterpret_cast<HostTranslator*>(1);
     EXPECT_EQ(application->get_Translator(&translator), S_OK);
     EXPECT_EQ(translator, nullptr);
-    EXPECT_TRUE(allAre(E_POINTER, {application->get_IniCache(nullptr), application->get_ConfigurationDirectory(nullptr),
-                                   host::makeBuiltInFileService()->FileExists(nullptr, nullptr)}));
 
     ComPtr<HostFileService> service;
     ASSERT_EQ(application->get_FileService(service.out()), S_OK);
@@ -90,25 +72,6 @@ TEST(BuiltInHost, answersByTheRulesOfCom)
         EXPECT_EQ(object, service.get());
         service->Release();
     }
-}
-
-TEST(BuiltInHost, knowsTheFilesOfTheSystem)
-{
-    Sandbox sandbox;
-    sandbox.write(W("file"), "");
-    const auto service = host::makeBuiltInFileService();
-    const Bstr file(sandbox.path(W("file")));
-    const Bstr folder(sandbox.path());
-    const Bstr missing(sandbox.path(W("missing")));
-    VARIANT_BOOL isFile = 1;
-    VARIANT_BOOL isFolder = 1;
-    for (BSTR path : {file.get(), folder.get(), missing.get(), BSTR(nullptr)}) {
-        EXPECT_EQ(service->FileExists(path, &isFile), S_OK);
-        EXPECT_EQ(service->FolderExists(path, &isFolder), S_OK);
-        EXPECT_EQ(isFile, path == file.get() ? VARIANT_TRUE : VARIANT_FALSE);
-        EXPECT_EQ(isFolder, path == folder.get() ? VARIANT_TRUE : VARIANT_FALSE);
-    }
-    EXPECT_EQ(service->Revalidate(missing.get()), S_OK);
 }
 
 } // namespace

@@ -66,11 +66,6 @@ TEST(Com, threadsArePreparedOneByOne)
     IUnknown* object = reinterpret_cast<IUnknown*>(1);
     EXPECT_EQ(create(CLSCTX_ALL, &object), CO_E_NOTINITIALIZED);
     EXPECT_EQ(object, nullptr);
-    DWORD cookie = 0;
-    Counted counted;
-    CountedFactory factory(counted);
-    EXPECT_EQ(CoRegisterClassObject(testClass, &factory, CLSCTX_LOCAL_SERVER, REGCLS_MULTIPLEUSE, &cookie),
-              CO_E_NOTINITIALIZED);
     EXPECT_EQ(CoInitialize(nullptr), S_OK);
     EXPECT_EQ(CoInitialize(nullptr), S_FALSE);
     EXPECT_EQ(CoInitializeEx(nullptr, COINIT_MULTITHREADED), RPC_E_CHANGED_MODE);
@@ -177,11 +172,6 @@ TEST(Com, countedTexts)
     EXPECT_EQ(SysStringByteLen(bytes), 3u);
     EXPECT_EQ(std::string(reinterpret_cast<const char*>(bytes), 5), "xyz\0\0"s);
     SysFreeString(bytes);
-    const BSTR undefined = SysAllocStringLen(nullptr, 5);
-    EXPECT_EQ(SysStringLen(undefined), 5u);
-    EXPECT_EQ(undefined[5], 0);
-    SysFreeString(undefined);
-
     EXPECT_EQ(SysAllocString(nullptr), nullptr);
     EXPECT_EQ(SysStringLen(nullptr), 0u);
     EXPECT_EQ(SysAllocStringLen(W(""), 0xFFFFFFFF), nullptr) << "beyond the range";
@@ -272,7 +262,7 @@ TEST(Com, arraysHoldTheFirstDimensionTogether)
     EXPECT_EQ(SafeArrayDestroy(array), DISP_E_ARRAYISLOCKED);
     EXPECT_EQ(SafeArrayUnaccessData(array), S_OK);
     EXPECT_EQ(SafeArrayUnaccessData(array), E_UNEXPECTED);
-    for (auto outside : {std::pair<LONG, LONG>{0, 0}, {4, 0}, {1, 1}, {1, -2}}) {
+    for (auto outside : {std::pair<LONG, LONG>{0, 0}, {4, 0}, {1, 1}}) {
         LONG indices[] = {outside.first, outside.second};
         EXPECT_EQ(SafeArrayGetElement(array, indices, &bound), DISP_E_BADINDEX);
         EXPECT_EQ(SafeArrayPutElement(array, indices, &bound), DISP_E_BADINDEX);
@@ -348,10 +338,6 @@ TEST(Com, errorObjectsAreTakenOnce)
     taken->Release();
     EXPECT_EQ(GetErrorInfo(0, &taken), S_FALSE);
     EXPECT_EQ(taken, nullptr);
-    EXPECT_EQ(SetErrorInfo(0, &info), S_OK);
-    EXPECT_EQ(SetErrorInfo(0, nullptr), S_OK);
-    EXPECT_EQ(info.references, 1u);
-    EXPECT_EQ(GetErrorInfo(1, &taken), E_INVALIDARG);
 }
 
 TEST(Com, errorsShareWhatTheyTell)

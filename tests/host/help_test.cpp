@@ -136,11 +136,8 @@ TEST(Help, whatTheCompanionsMakeOfIt)
         std::string alerted;
         std::string boxes;
     } rows[] = {
-        {"loaded", Place::loaded, help, Place::nowhere, ui, allHelp, "", ""},
         {"in the binary directory", Place::binaryDirectory, help, Place::nowhere, ui, allHelp, "", ""},
         {"along the path", Place::searchPath, help, Place::nowhere, ui, allHelp, "", ""},
-        {"an operation is missing", Place::searchPath, "zu_test_old_help_library", Place::nowhere, ui, "41\n4321\n0\n",
-         "", ""},
         {"the UI library tells", Place::nowhere, help, Place::searchPath, ui, noHelp, alert, ""},
         {"the UI library is loaded", Place::nowhere, help, Place::loaded, ui, noHelp, alert, ""},
         {"nobody looks for it there", Place::nowhere, help, Place::binaryDirectory, ui, noHelp, "", box},

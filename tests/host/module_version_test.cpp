@@ -1,5 +1,4 @@
 #include "host/modules.h"
-#include "support/memory.h"
 #include "support/sandbox.h"
 #include "zu_Global.h"
 #include "zu_Sys.h"
@@ -31,15 +30,8 @@ TEST(ModuleVersion, namesOfALoadedModule)
 
 TEST(ModuleVersion, onlyLoadedModulesHaveOne)
 {
-    const WideLiteral names[] = {nullptr,
-                                 W(""),
-                                 W("zu_test_versioned"),
-                                 W("zu_test_versione"),
-                                 W("libzu_test_versioned.so"),
-                                 W("C:\\no\\such\\zu.dll"),
-                                 W("Q:\\zu.dll"),
-                                 W(".dll"),
-                                 W("\xD800 \x416")};
+    const WideLiteral names[] = {nullptr,         W(""),     W("zu_test_versioned"), W("zu_test_versione"),
+                                 W("Q:\\zu.dll"), W(".dll"), W("\xD800 \x416")};
     for (WideLiteral name : names) {
         EXPECT_EQ(zu_Sys_getVersionNumber(W("zu")) != nullptr, true);
         EXPECT_EQ(zu_Sys_getVersionNumber(name), nullptr) << "the last result is gone";
@@ -55,18 +47,14 @@ TEST(ModuleVersion, theUsersLanguageIsPreferred)
 {
     const LoadedModule module("zu_test_versioned");
     const std::tuple<const char*, WideLiteral> rows[] = {
-        {"de_DE.UTF-8", W("1.2.3.4")}, {"de_CH@euro", W("1.2.3.4")},  {"de", W("1.2.3.4")},
-        {"en_GB", W("8.11.9.245")},    {"en_US", W("8.11.9.245")},    {"C.UTF-8", W("8.11.9.245")},
-        {"fr_FR", W("8.11.9.245")},    {"xx_YY.Z@", W("8.11.9.245")},
+        {"de_DE.UTF-8", W("1.2.3.4")},
+        {"de", W("1.2.3.4")},
+        {"en_GB", W("8.11.9.245")},
+        {"xx_YY.Z@", W("8.11.9.245")},
     };
     for (const auto& [locale, version] : rows) {
         Sandbox sandbox;
         sandbox.setEnvironment("LC_ALL", locale);
-        EXPECT_EQ(str(zu_Global_getModuleFileVersion(W("zu_test_versioned"))), version) << locale;
-        // Without an overriding setting the language is the one of LANG.
-        sandbox.setEnvironment("LC_ALL", "");
-        sandbox.setEnvironment("LC_MESSAGES", std::nullopt);
-        sandbox.setEnvironment("LANG", locale);
         EXPECT_EQ(str(zu_Global_getModuleFileVersion(W("zu_test_versioned"))), version) << locale;
     }
 }
@@ -86,17 +74,5 @@ TEST(ModuleVersion, theProgramIsAModuleToo)
     EXPECT_EQ(zu_Sys_getVersionNumber((linked + W("0")).c_str()), nullptr);
 }
 #endif
-
-TEST(ModuleVersion, withoutMemory)
-{
-    const LoadedModule module("zu_test_versioned");
-    zu_wchar* result = nullptr;
-    sweepAllocations([&] { result = zu_Sys_getVersionNumber(module.path().c_str()); },
-                     [&] { EXPECT_EQ(result, nullptr); });
-    EXPECT_EQ(str(result), W("08.11.09.245"));
-    sweepAllocations([&] { result = zu_Global_getModuleFileVersion(module.path().c_str()); },
-                     [&] { EXPECT_EQ(str(result), W("")); });
-    EXPECT_EQ(str(result), W("8.11.9.245"));
-}
 
 } // namespace

@@ -60,12 +60,6 @@ void Registry::addText(const Wide& path, const Wide& name, const Wide& value)
     setValue(path, name, REG_SZ, value.c_str(), (value.size() + 1) * sizeof(wchar_t));
 }
 
-void Registry::addNumber(const Wide& path, const Wide& name, std::uint32_t value)
-{
-    addKey(path);
-    setValue(path, name, REG_DWORD, &value, sizeof value);
-}
-
 #else
 
 namespace {
@@ -99,12 +93,6 @@ void Registry::addKey(const Wide& path)
 void Registry::addText(const Wide& path, const Wide& name, const Wide& value)
 {
     sections[path] += W("\"") + escaped(name) + W("\"=\"") + escaped(value) + W("\"\r\n");
-    publish();
-}
-
-void Registry::addNumber(const Wide& path, const Wide& name, std::uint32_t value)
-{
-    sections[path] += W("\"") + escaped(name) + W("\"=dword:") + widen(std::to_string(value)) + W("\r\n");
     publish();
 }
 

@@ -19,7 +19,6 @@ public:
 
     void addKey(const Wide& path);
     void addText(const Wide& path, const Wide& name, const Wide& value);
-    void addNumber(const Wide& path, const Wide& name, std::uint32_t value);
 
 private:
     void publish();

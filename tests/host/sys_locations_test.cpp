@@ -24,7 +24,6 @@ TEST(SysLocations, directoriesFollowTheSettings)
     const Configured world("[GENERAL]\nKV=D:\\Net\nKVSPECS=D:\\Specs\\\nZU_BIN_DIR=D:\\Programs\n");
     PathBuffer path;
     EXPECT_EQ(str(zu_Sys_getNetDir(path)), W("d:\\net\\"));
-    EXPECT_EQ(str(zu_Sys_getNetName(path, W("File.TXT"))), W("d:\\net\\file.txt"));
     EXPECT_EQ(str(zu_Sys_getLocalDir(path)), W("d:\\net\\")) << "the network directory stands in";
     EXPECT_EQ(str(zu_Sys_getSpecDir(path, W("Piping"))), W("d:\\specs\\piping\\"));
     EXPECT_EQ(str(zu_Env_getSes(W("KVSPECS"))), W("D:\\Specs\\")) << "remembered as it was configured";
@@ -34,20 +33,9 @@ TEST(SysLocations, directoriesFollowTheSettings)
     zu_Env_setSes(W("KV"), W("F:"));
     zu_Env_setSes(W("ZU_BIN_DIR"), W("G:\\never")); // the configuration alone counts here
     EXPECT_EQ(str(zu_Sys_getLocalName(path, W("X"))), W("e:\\work\\x"));
-    EXPECT_EQ(str(zu_Sys_getNetDir(path)), W("f:\\"));
+    EXPECT_EQ(str(zu_Sys_getNetName(path, W("File.TXT"))), W("f:\\file.txt"));
     EXPECT_EQ(str(zu_Sys_getBinName(path, W("A.EXE"))), W("d:\\programs\\a.exe"));
     EXPECT_EQ(zu_Sys_is64bitSystem(), 1);
-}
-
-TEST(SysLocations, withoutAnySetting)
-{
-    const Configured world;
-    PathBuffer path(W("old"));
-    EXPECT_EQ(str(zu_Sys_getNetDir(path)), W(""));
-    EXPECT_EQ(str(zu_Sys_getBinDir(path)), W("bin\\"));
-    EXPECT_EQ(str(zu_Sys_getSpecDir(path, W(""))), W("specs\\"));
-    EXPECT_EQ(str(zu_Env_getSes(W("KVSPECS"))), W("specs"));
-    EXPECT_EQ(zu_Sys_getShowModeSelectGUI(), 0);
 }
 
 TEST(SysLocations, theTemporaryDirectoryOfASession)
@@ -102,11 +90,8 @@ TEST(SysLocations, whatTheHostNames)
     EXPECT_EQ(zu_Sys_getApplicationGroup(group, 4), 1);
     EXPECT_EQ(group.str(), W("Pipi"));
     EXPECT_TRUE(allAre(0, {zu_Sys_getApplicationGroup(nullptr, 4), zu_Sys_setApplicationGroup(nullptr)}));
-    EXPECT_EQ(zu_Sys_getNetDir(nullptr), nullptr);
     EXPECT_EQ(zu_Sys_setShowModeSelectGUI(7), 0) << "written";
     EXPECT_EQ(zu_Sys_getShowModeSelectGUI(), 1);
-    EXPECT_EQ(zu_Sys_setShowModeSelectGUI(0), 0);
-    EXPECT_EQ(zu_Sys_getShowModeSelectGUI(), 0);
 
     zu_Host_setBuiltIn(0);
     zu_Global_destroyData();

