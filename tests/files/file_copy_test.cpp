@@ -43,6 +43,7 @@ TEST(File, copyOntoItselfLeavesTheFileAlone)
     std::filesystem::create_hard_link(sandbox.native(W("file")), sandbox.native(W("link")), failed);
     const std::tuple<const char*, Wide> rows[] = {
         {"the same name", file},
+        {"another case", sandbox.path(W("FILE"))},
         {"another way", sandbox.path(W("none\\..\\file"))},
         {"another link", sandbox.path(W("link"))},
     };
@@ -151,6 +152,18 @@ TEST(File, aFileThatGrowsOrVanishesWhileItIsCopied)
         }
     }
     writer.join();
+}
+
+// Their length is not what the system says, and none of its own ways of copying takes them.
+TEST(File, filesOfTheSystemCanBeCopied)
+{
+    if (onWindows)
+        GTEST_SKIP() << "no such files on this system";
+    Sandbox sandbox;
+    EXPECT_EQ(zu_File_copy(W("C:\\proc\\self\\cmdline"), sandbox.path(W("copy")).c_str()), 0);
+    EXPECT_NE(sandbox.read(W("copy")), "");
+    EXPECT_EQ(zu_File_append(sandbox.path(W("copy")).c_str(), W("C:\\proc\\version")), 0);
+    EXPECT_NE(sandbox.read(W("copy")).find("Linux"), std::string::npos);
 }
 
 } // namespace

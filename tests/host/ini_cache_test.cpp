@@ -58,6 +58,8 @@ TEST_F(BuiltInIniCache, readsAndWritesValues)
     EXPECT_EQ(cache.get(file, W("MORE"), W("A")), W("b"));
     EXPECT_FALSE(cache.set(file, W("More"), W("a"), W("two\nlines")));
     EXPECT_EQ(cache.get(file, W("more"), W("a")), W("b"));
+    // Only the file itself is left in its directory.
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(sandbox.native()), {}), 1);
 }
 
 TEST_F(BuiltInIniCache, addsAndRemovesGroups)
@@ -234,6 +236,29 @@ TEST_F(BuiltInIniCache, withoutMemoryItAnswersAbsentAndWritesNothing)
             set = false;
         });
     EXPECT_TRUE(set);
+}
+
+TEST_F(BuiltInIniCache, badArguments)
+{
+    sandbox.write(W("zu.ini"), "[g]\nk=v\n");
+    VARIANT_BOOL flag = 0;
+    Bstr text;
+    EXPECT_EQ(cache->GetValue(cache.bstr(file), nullptr, nullptr, text.out(), &flag), S_OK);
+    EXPECT_EQ(flag, VARIANT_FALSE);
+    EXPECT_EQ(cache->GetValue(nullptr, nullptr, nullptr, nullptr, &flag), E_POINTER);
+    EXPECT_EQ(cache->GetValue(nullptr, nullptr, nullptr, text.out(), nullptr), E_POINTER);
+    EXPECT_EQ(cache->SetValue(cache.bstr(file), nullptr, nullptr, nullptr, &flag), S_OK);
+    EXPECT_EQ(flag, VARIANT_FALSE);
+    EXPECT_EQ(cache->AddGroup(nullptr, nullptr, nullptr), E_POINTER);
+    EXPECT_EQ(cache->GetGroups(nullptr, nullptr), E_POINTER);
+    EXPECT_EQ(cache->Reserved1(), E_NOTIMPL);
+    const auto group = cache.group(file, W("g"));
+    EXPECT_EQ(group->get_Item(indexOf(VT_I4, 0), nullptr), E_POINTER);
+    EXPECT_TRUE(
+        allAre(E_POINTER, {group->RemoveAll(nullptr), group->get_Count(nullptr), group->get_Name(nullptr),
+                           cache->SetValue(nullptr, nullptr, nullptr, nullptr, nullptr),
+                           cache->RemoveGroup(nullptr, nullptr, nullptr), cache->GetGroup(nullptr, nullptr, nullptr)}));
+    EXPECT_EQ(sandbox.read(W("zu.ini")), "[g]\nk=v\n");
 }
 
 } // namespace
