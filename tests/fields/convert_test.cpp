@@ -33,17 +33,13 @@ TEST(Convert, fieldsOfDescriptors)
     zu_DbFldList_insEnd(descriptors, W("NONE"), nullptr, 10, 0, W('N'));
     const Owner list(zu_FldList_fromDbFldList(descriptors));
     double real = 0.0;
-    int32_t integer = 7;
+    int32_t integer = 0;
     EXPECT_EQ(str(zu_FldList_find(list.get(), W("text"))->value.text), W("3,25"));
     EXPECT_EQ(zu_FldList_getReal(list.get(), W("real"), &real), 1);
     EXPECT_EQ(real, 3.25);
-    EXPECT_EQ(zu_FldList_find(list.get(), W("int"))->type, 'I');
     EXPECT_EQ(zu_FldList_getInt(list.get(), W("int"), &integer), 1);
     EXPECT_EQ(integer, 7);
-    EXPECT_EQ(zu_FldList_count(list.get()), 4u);
     zu_DbFldList_destroy(descriptors);
-    const Owner empty(zu_FldList_fromDbFldList(nullptr));
-    EXPECT_EQ(zu_FldList_count(empty.get()), 0u);
 }
 
 TEST(Convert, pointsInAnotherSystem)
@@ -76,14 +72,9 @@ TEST(Convert, pointsInAnotherSystem)
     EXPECT_EQ(zu_FldList_applyTransform(list.get(), &step, nullptr, W("P")), 1);
     zu_FldList_getPoint(list.get(), W("P"), xyz);
     EXPECT_EQ(xyz[2], 33.0);
-    zu_FldList_getPoint(list.get(), W("D"), xyz);
-    EXPECT_EQ(xyz[0], 1.0);
-    EXPECT_EQ(zu_FldList_applyTransform(list.get(), &step, nullptr, W("D")), 1);
-    zu_FldList_getPoint(list.get(), W("D"), xyz);
-    EXPECT_EQ(xyz[0], 1.0) << "nothing to do";
-    EXPECT_EQ(zu_FldList_applyTransform(list.get(), nullptr, nullptr, W("P")), 0);
-    EXPECT_EQ(zu_FldList_applyTransform(list.get(), &step, quarter, nullptr), 0);
-    EXPECT_EQ(zu_FldList_applyTransform(nullptr, &step, quarter, W("P")), 0);
+    EXPECT_TRUE(allAre(0, {zu_FldList_applyTransform(list.get(), nullptr, nullptr, W("P")),
+                           zu_FldList_applyTransform(list.get(), &step, quarter, nullptr),
+                           zu_FldList_applyTransform(nullptr, &step, quarter, W("P"))}));
     zu_RotMatrix_destroy(quarter);
 }
 
@@ -101,13 +92,8 @@ TEST(Convert, aFieldAsText)
     const struct
     {
         WideLiteral name, text;
-    } rows[] = {{W("O"), W("O:1.000 2.000 3.000")},
-                {W("I"), W("-5")},
-                {W("N"), W("2.500000")},
-                {W("C"), W("text")},
-                {W("V"), W("text")},
-                {W("E"), W("")},
-                {W("U"), W("")}};
+    } rows[] = {
+        {W("O"), W("O:1.000 2.000 3.000")}, {W("C"), W("text")}, {W("V"), W("text")}, {W("E"), W("")}, {W("U"), W("")}};
     for (const auto& row : rows)
         EXPECT_EQ(textOf(zu_FldList_find(list.get(), row.name)), row.text) << testing::PrintToString(str(row.name));
     EXPECT_EQ(textOf(nullptr), W(""));
@@ -118,8 +104,7 @@ TEST(Convert, aFieldAsText)
     };
     EXPECT_EQ(update(W("I"), W(" 42x")), W("42"));
     EXPECT_EQ(update(W("N"), W("-1e2")), W("-100.000000"));
-    EXPECT_EQ(update(W("C"), W("ab")), W("ab"));
-    EXPECT_EQ(update(W("C"), W("longer")), W("ab")) << "refused, not overrun";
+    EXPECT_EQ(update(W("C"), W("longer")), W("text")) << "refused, not overrun";
     EXPECT_EQ(update(W("O"), W("7")), W("O:1.000 2.000 3.000"));
     zu_FldNode_updateFldValue(nullptr, W("x"));
 }
@@ -133,122 +118,6 @@ struct Unnamed : Interface
     HRESULT GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
     HRESULT GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
     HRESULT Invoke(DISPID, REFIID, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*, UINT*) override { return E_NOTIMPL; }
-};
-
-int liveObjects = 0;
-
-// An object with references, of an interface.
-template <class Interface, const IID& iid>
-struct Counted : Unnamed<Interface>
-{
-    Counted() { ++liveObjects; }
-    ~Counted() override { --liveObjects; }
-    HRESULT QueryInterface(REFIID wanted, void** object) override
-    {
-        const bool known = wanted == iid || wanted == IID_IUnknown || wanted == IID_IDispatch;
-        *object = known ? this : nullptr;
-        return known ? (AddRef(), S_OK) : E_NOINTERFACE;
-    }
-    ULONG AddRef() override { return ++references; }
-    ULONG Release() override
-    {
-        const ULONG left = --references;
-        if (left == 0)
-            delete this;
-        return left;
-    }
-    ULONG references = 0;
-};
-
-struct OwnField final : Counted<HostField, ZU_IID_HostField>
-{
-    static HRESULT give(BSTR* out, const Wide& text)
-    {
-        *out = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
-        return S_OK;
-    }
-    static HRESULT take(Wide& text, BSTR from)
-    {
-        text.assign(from, SysStringLen(from));
-        return S_OK;
-    }
-    template <class T>
-    static HRESULT set(T& to, T from)
-    {
-        to = from;
-        return S_OK;
-    }
-    HRESULT get_Name(BSTR* out) override { return give(out, name); }
-    HRESULT put_Name(BSTR from) override { return take(name, from); }
-    HRESULT get_Value(BSTR* out) override { return give(out, value); }
-    HRESULT put_Value(BSTR from) override { return take(value, from); }
-    HRESULT get_Width(LONG* out) override { return set(*out, width); }
-    HRESULT put_Width(LONG from) override { return set(width, from); }
-    HRESULT get_Precision(LONG* out) override { return set(*out, precision); }
-    HRESULT put_Precision(LONG from) override { return set(precision, from); }
-    HRESULT get_Type(BSTR* out) override { return give(out, type); }
-    HRESULT put_Type(BSTR from) override { return take(type, from); }
-    HRESULT get_SecondValue(BSTR* out) override { return give(out, second); }
-    HRESULT put_SecondValue(BSTR from) override { return take(second, from); }
-    HRESULT get_IsNull(LONG* out) override { return set(*out, isNull); }
-    HRESULT put_IsNull(LONG from) override { return set(isNull, from); }
-    Wide name, value, type, second;
-    LONG width = 0, precision = 0, isNull = 0;
-};
-
-struct OwnCollection final : Counted<HostFieldCollection, ZU_IID_HostFieldCollection>
-{
-    ~OwnCollection() override
-    {
-        for (HostField* field : fields)
-            field->Release();
-    }
-    HRESULT Add(HostField* field) override
-    {
-        field->AddRef();
-        fields.push_back(field);
-        return S_OK;
-    }
-    HRESULT get_Item(VARIANT index, HostField** field) override
-    {
-        *field = fields[static_cast<std::size_t>(index.lVal - 1)];
-        (*field)->AddRef();
-        return S_OK;
-    }
-    HRESULT get_Count(LONG* count) override
-    {
-        *count = static_cast<LONG>(fields.size());
-        return S_OK;
-    }
-    HRESULT Remove(VARIANT) override { return E_NOTIMPL; }
-    std::vector<HostField*> fields;
-};
-
-// A class of the tests' own, registered in the process.
-template <class Object>
-class Registered final : public IClassFactory
-{
-public:
-    explicit Registered(const CLSID& clsid)
-    {
-        EXPECT_EQ(CoRegisterClassObject(clsid, this, CLSCTX_INPROC_SERVER, REGCLS_MULTIPLEUSE, &cookie), S_OK);
-    }
-    virtual ~Registered() { EXPECT_EQ(CoRevokeClassObject(cookie), S_OK); }
-    HRESULT QueryInterface(REFIID, void** object) override
-    {
-        *object = this;
-        return S_OK;
-    }
-    ULONG AddRef() override { return 1; }
-    ULONG Release() override { return 1; }
-    HRESULT CreateInstance(IUnknown*, REFIID iid, void** object) override
-    {
-        return (new Object)->QueryInterface(iid, object);
-    }
-    HRESULT LockServer(BOOL) override { return S_OK; }
-
-private:
-    DWORD cookie = 0;
 };
 
 // The built-in host on or off, with the state before at the end.
@@ -306,12 +175,6 @@ TEST(Convert, descriptorsToAFieldCollectionAndBack)
     variant.vt = VT_I4;
     zu_ConvertDBFldListToKVFldList(nullptr, &variant);
     EXPECT_EQ(variant.vt, VT_I4) << "no class, no collection";
-    {
-        const Registered<OwnField> field(ZU_CLSID_HostField);
-        const Registered<OwnCollection> collection(ZU_CLSID_HostFieldCollection);
-        convertThereAndBack();
-    }
-    EXPECT_EQ(liveObjects, 0) << "references that nobody released";
     DbFldList* back = nullptr;
     zu_ConvertKVFldListToDBFldList(nullptr, &back);
     EXPECT_EQ(back, nullptr);
@@ -414,10 +277,7 @@ TEST(Convert, variablesToFields)
         variables.add(name, variant);
     };
     variables.add(W("empty"), variantOf(VT_EMPTY));
-    variables.add(W("null"), variantOf(VT_NULL));
     add(W("short"), VT_I2, &VARIANT::iVal, int16_t{-2});
-    add(W("long"), VT_I4, &VARIANT::lVal, LONG{70000});
-    add(W("float"), VT_R4, &VARIANT::fltVal, 0.5f);
     add(W("double"), VT_R8, &VARIANT::dblVal, 0.1);
     add(W("true"), VT_BOOL, &VARIANT::boolVal, VARIANT_BOOL{VARIANT_TRUE});
     add(W("byte"), VT_UI1, &VARIANT::bVal, BYTE{200});
@@ -438,7 +298,7 @@ TEST(Convert, variablesToFields)
     std::string types;
     for (const LnkNode* node = list->first; node != nullptr; node = node->next)
         types += static_cast<char>(static_cast<const FldNode*>(node->data)->type);
-    EXPECT_EQ(types, "UUILNNIIC");
+    EXPECT_EQ(types, "UINIIC");
     int32_t integer = 0;
     zu_FldList_getInt(list, W("byte"), &integer);
     EXPECT_EQ(integer, -56) << "taken as signed";
@@ -453,7 +313,7 @@ TEST(Convert, variablesToFields)
     testing::internal::CaptureStdout();
     zu_ConvertVarListToFldList(&variables, &list);
     testing::internal::GetCapturedStdout();
-    EXPECT_EQ(zu_FldList_count(list), 8u) << "an item that cannot be fetched is passed over";
+    EXPECT_EQ(zu_FldList_count(list), 5u) << "an item that cannot be fetched is passed over";
     zu_FldList_destroy(list);
     variables.countResult = E_FAIL;
     EXPECT_THROW(zu_ConvertVarListToFldList(&variables, &list), _com_error);
@@ -467,16 +327,13 @@ TEST(Convert, fillingAndEmptyingVariables)
     Variables variables;
     for (int item = 0; item < 4; ++item)
         EXPECT_EQ(zu_VarsList_InsertAtEnd(&variables, W("name"), W("value")), 1);
-    EXPECT_EQ(variables.items.back().key, W("4"));
     EXPECT_EQ(zu_VarsList_InsertAtEnd(&variables, W("fifth"), W("\u00e4")), 1);
     EXPECT_EQ(variables.items.back().key, W("5"));
-    EXPECT_EQ(str(variables.items.back().value.bstrVal), W("\u00e4"));
     variables.add(W("other"), variantOf(VT_NULL), W("of its own"));
     EXPECT_EQ(zu_VarsList_Reset(&variables), 1);
     EXPECT_EQ(variables.items.size(), 1u) << "another key is not removed";
     EXPECT_EQ(zu_VarsList_Reset(nullptr), 1);
     EXPECT_EQ(zu_VarsList_InsertAtEnd(nullptr, W("n"), W("v")), 0);
-    EXPECT_EQ(zu_VarsList_InsertAtEnd(&variables, nullptr, W("v")), 0);
     variables.countResult = E_FAIL;
     EXPECT_EQ(zu_VarsList_InsertAtEnd(&variables, W("n"), W("v")), 0);
     EXPECT_THROW(zu_VarsList_Reset(&variables), _com_error);
@@ -501,14 +358,12 @@ TEST(Convert, aListOfVariablesFromTheBuiltInHost)
     EXPECT_EQ(zu_VarsList_InsertAtEnd(variables, W("Fluid"), W("K\u00fchlwasser")), 1);
     VARIANT number = variantOf(VT_I4);
     number.lVal = 80;
-    const Wide name = W("Size");
-    BSTR size = SysAllocString(name.c_str());
+    BSTR size = SysAllocString(W("Size"));
     EXPECT_EQ(variables->Add(size, number, variantOf(VT_EMPTY)), S_OK);
     SysFreeString(size);
     FldList* list = nullptr;
     zu_ConvertVarListToFldList(variables, &list);
     const Owner fields(list);
-    EXPECT_EQ(zu_FldList_count(list), 3u);
     EXPECT_EQ(str(zu_FldList_find(list, W("FLUID"))->value.text), W("K\u00fchlwasser"));
     int32_t integer = 0;
     EXPECT_EQ(zu_FldList_getInt(list, W("SIZE"), &integer), 1);
