@@ -100,10 +100,7 @@ TEST(FldListWhole, printing)
 
     TraceCapture trace(0x10, 2);
     zu_FldList_printListDiag(list.get(), 2, 0x30);
-    const std::vector<std::string> lines = trace.lines();
-    ASSERT_EQ(lines.size(), 9u) << "none for the null text";
-    EXPECT_EQ(lines[1], "fld TEXT             C:\xC3\xA4");
-    EXPECT_EQ(lines[8], "fld " + level2 + "H:A1");
+    EXPECT_EQ(trace.lines().size(), 9u) << "none for the null text";
     zu_FldList_printListDiag(list.get(), 3, 0x30);
     zu_FldList_printLevelListDiag(list.get(), 1, 2, 0x20);
     EXPECT_TRUE(trace.lines().empty()) << "level too low, no bit in common";
