@@ -41,8 +41,6 @@ TEST(CppDirectories, successIsTrue)
     const Wide made = sandbox.path(W("made"));
     EXPECT_TRUE(zu::directories::create(made + W("\\inner")));
     EXPECT_FALSE(zu::directories::create(made)) << "there is nothing to create";
-    EXPECT_TRUE(zu::directories::exists(made));
-    EXPECT_EQ(zu::directories::list(made + W("\\*.*")).size(), 3u) << "., .. and inner";
     EXPECT_FALSE(zu::directories::remove(made)) << "not empty";
     EXPECT_TRUE(zu::directories::remove(made + W("\\inner")));
     EXPECT_TRUE(zu::directories::remove_tree(made));

@@ -125,7 +125,6 @@ TEST(CppRange, standardAlgorithms)
     zu::int_list numbers;
     for (const int value : {3, 1, 4, 1, 5, 9, 2, 6})
         numbers.push_back(value);
-    EXPECT_EQ(std::ranges::max(numbers), 9);
     std::vector<int> backwards(std::make_reverse_iterator(numbers.end()), std::make_reverse_iterator(numbers.begin()));
     EXPECT_EQ(backwards, (std::vector<int>{6, 2, 9, 5, 1, 4, 1, 3}));
 

@@ -129,24 +129,6 @@ TEST_F(DbWrite, blankRowsToFillIn)
     EXPECT_EQ(str(zu_Db_getFldStr(t, W("A"))), W("a"));
 }
 
-TEST_F(DbWrite, readModifyNext)
-{
-    Texts rows;
-    for (int number = 0; number < 20; ++number)
-        rows.push_back("'tag" + std::to_string(number) + "', " + std::to_string(number));
-    const Table& t = table("A VARCHAR(8), L INTEGER", rows);
-    int count = 0;
-    for (int32_t at = zu_Db_topRec(t, 0); at == ZU_DB_DONE; at = zu_Db_nextRec(t, 0), ++count) {
-        const List row(zu_Db_readRec(t, 0));
-        const Wide value = W("n") + str(zu_DbFldList_getFldVal(row.get(), W("L")));
-        zu_DbFldList_modFldVal(row.get(), W("A"), value.c_str());
-        EXPECT_EQ(zu_Db_modRec(t, row.get()), ZU_DB_DONE);
-        EXPECT_EQ(str(zu_Db_getFldStr(t, W("A"))), value) << "the current row has it too";
-    }
-    EXPECT_EQ(count, 20);
-    EXPECT_EQ(querySql(file, "SELECT count(*) FROM t WHERE A = 'n' || L"), Texts{"20"});
-}
-
 TEST_F(DbWrite, boundRowsAreCutToTheirWidth)
 {
     const Table& t = table("A VARCHAR(4), L INTEGER", {"'a', 1", "'b', 2"});
