@@ -8,11 +8,9 @@ using namespace zutest;
 TEST(Alias, putGetAndDelete)
 {
     WideBuffer<8> value(W("old"));
-    EXPECT_EQ(zu_Alias_put(nullptr, W("x")), 0);
     EXPECT_EQ(zu_Alias_put(W("Root"), W("C:\\plant")), 1);
     EXPECT_EQ(zu_Alias_get(value, W("ROOT"), 7), 1);
     EXPECT_EQ(value.str(), W("C:\\plan")) << "cut to the capacity";
-    EXPECT_EQ(zu_Alias_get(nullptr, W("ROOT"), 7), 0);
     EXPECT_EQ(zu_Alias_get(value, nullptr, 7), 0);
     EXPECT_EQ(value.str(), W(""));
     EXPECT_EQ(zu_Alias_put(W("unknown alias"), nullptr), 0);
@@ -38,9 +36,8 @@ TEST(Alias, expansion)
         EXPECT_EQ(out.str(), expanded) << what;
     }
     WideBuffer<8> out(W("old"));
-    EXPECT_EQ(zu_Alias_expandStr(out, nullptr, 8), 0);
-    EXPECT_EQ(zu_Alias_expandStr(nullptr, W("x"), 8), 0);
-    EXPECT_EQ(out.str(), W("old")) << "null arguments do nothing";
+    EXPECT_TRUE(allAre(0, {zu_Alias_expandStr(out, nullptr, 8), zu_Alias_expandStr(nullptr, W("x"), 8)}));
+    EXPECT_EQ(out.str(), W("old"));
 }
 
 TEST(Alias, fromAFieldList)
@@ -49,7 +46,6 @@ TEST(Alias, fromAFieldList)
     FldList* const list =
         zu_FldList_create(W("A1"), ZU_FLD_CHAR, W("text"), W("A2"), ZU_FLD_INT, 5, W("A3"), ZU_FLD_UNKNOWN, end, end);
     EXPECT_EQ(zu_Alias_putFromFldList(list), 1);
-    EXPECT_EQ(zu_Alias_putFromFldList(nullptr), 0);
     WideBuffer<32> out;
     zu_Alias_expandStr(out, W("%a1% %a2% [%a3%]"), 0);
     EXPECT_EQ(out.str(), W("text 5 []"));

@@ -2,7 +2,6 @@
 #include "support/lists.h"
 #include "support/memory.h"
 #include "zu_Alias.h"
-#include "zu_File.h"
 #include "zu_Ini.h"
 
 namespace {
@@ -36,13 +35,11 @@ TEST(Ini, singleValues)
     const std::tuple<WideLiteral, WideLiteral, WideLiteral> rows[] = {
         {W("one"), W("KEY"), W("value")},        {W("ONE"), W("blank"), W("<null>")},
         {W("One"), W("Alias"), W("expanded-x")}, {W("One"), W("No sign"), W("<null>")},
-        {W("two"), W("key"), W("deep")},         {W("three"), W("key"), W("<null>")},
-        {W("one"), W("none"), W("<null>")},      {nullptr, nullptr, W("<null>")},
+        {W("two"), W("key"), W("deep")},         {nullptr, nullptr, W("<null>")},
     };
     for (const auto& [group, key, value] : rows)
         EXPECT_EQ(str(zu_Ini_get(file.c_str(), group, key)), value) << testing::PrintToString(str(key));
     EXPECT_EQ(str(zu_Ini_getAbsolute(file.c_str(), W("One"), W("Alias"))), W("%ZU_I1%-x"));
-    EXPECT_EQ(zu_Ini_get(world.path(W("missing.ini")).c_str(), W("One"), W("Key")), nullptr);
 }
 
 TEST(Ini, valuesAreCut)
@@ -51,7 +48,6 @@ TEST(Ini, valuesAreCut)
     zu_Alias_put(W("ZU_I2"), Wide(250, W('a')).c_str());
     EXPECT_EQ(str(zu_Ini_get(world.file().c_str(), W("G"), W("K"))), Wide(512, W('v')));
     EXPECT_EQ(str(zu_Ini_get(world.file().c_str(), W("G"), W("A"))), Wide(512, W('a'))) << "after expansion too";
-    EXPECT_EQ(str(zu_Ini_getValue(world.file().c_str(), W("G"), W("K"), 0, 5000)), Wide(700, W('v')));
     EXPECT_EQ(str(zu_Ini_getValue(world.file().c_str(), W("G"), W("K"), 0, 3)), W("vvv"));
     EXPECT_EQ(zu_Ini_getValue(world.file().c_str(), W("G"), W("K"), 0, -3), nullptr);
 }
@@ -64,8 +60,6 @@ TEST(Ini, writingAndVerifying)
     EXPECT_EQ(status, 0);
     EXPECT_EQ(world.read(W("zu.ini")), "[G]\nK=New Value\n");
     EXPECT_EQ(zu_Ini_setAndVerify(world.file().c_str(), W("H"), W("k"), W(""), nullptr), 0) << "empty reads as none";
-    EXPECT_EQ(zu_Ini_setAndVerify(world.path(W("no\\dir.ini")).c_str(), W("H"), W("k"), W("v"), &status), 0);
-    EXPECT_EQ(status, 1);
 }
 
 TEST(Ini, groupsAsFieldLists)
@@ -78,37 +72,27 @@ TEST(Ini, groupsAsFieldLists)
               (Pairs{{W("B"), W("1")}, {W("A"), W("al")}, {W("EMPTY"), W("")}}));
     EXPECT_EQ(takePairs(zu_Ini_getGroupAbsolute(file.c_str(), W("full"))),
               (Pairs{{W("B"), W("1")}, {W("A"), W("%ZU_I3%")}}));
-    EXPECT_EQ(takePairs(zu_Ini_getGroupValues(file.c_str(), W("full"), 1)).size(), 2u);
-    EXPECT_EQ(takePairs(zu_Ini_getGroup(file.c_str(), W("hollow"))), Pairs{}) << "an empty list";
+    EXPECT_EQ(takePairs(zu_Ini_getGroupValues(file.c_str(), W("hollow"), 1)), Pairs{}) << "an empty list";
     EXPECT_EQ(zu_Ini_getGroup(file.c_str(), W("none")), nullptr);
 }
 
-TEST(Ini, writingAFieldListEntryByEntry)
-{
-    const Configured world("[G]\nA=1\n");
-    const Wide file = world.file();
-    const Fields list(zu_FldList_create(W("A"), ZU_FLD_CHAR, W("text"), W("B"), ZU_FLD_INT, 5, end));
-    EXPECT_EQ(zu_Ini_setGroup(file.c_str(), W("G"), list.get(), 1), 1) << "B does not exist";
-    EXPECT_EQ(zu_Ini_setGroup(file.c_str(), W("G"), list.get(), 0), -3) << "the last field's status, literally";
-    EXPECT_EQ(world.read(W("zu.ini")), "[G]\nA=text\nB=5\n");
-    EXPECT_EQ(zu_Ini_setGroup(world.path(W("missing.ini")).c_str(), W("G"), list.get(), 0), 0) << "no write access";
-}
-
-TEST(Ini, replacingAndUpdatingGroups)
+TEST(Ini, writingGroups)
 {
     const Configured world("[A]\n; lost\nold=1\n[B]\nx=1\n");
     const Wide file = world.file();
-    const Fields list(zu_FldList_create(W("n"), ZU_FLD_REAL, 2.5, W("t"), ZU_FLD_CHAR, W("x"), end));
+    const Fields list(zu_FldList_create(W("t"), ZU_FLD_CHAR, W("x"), W("n"), ZU_FLD_REAL, 2.5, end));
+    const Pairs written{{W("T"), W("x")}, {W("N"), W("2.500000")}};
     EXPECT_EQ(zu_Ini_updateGroup(file.c_str(), W("a"), list.get()), 1);
-    EXPECT_EQ(takePairs(zu_Ini_getGroup(file.c_str(), W("A"))), (Pairs{{W("N"), W("2.500000")}, {W("T"), W("x")}}));
+    EXPECT_EQ(takePairs(zu_Ini_getGroup(file.c_str(), W("A"))), written);
     EXPECT_EQ(zu_Ini_setGroupEx(file.c_str(), W("B"), list.get()), 1);
-    EXPECT_EQ(takePairs(zu_Ini_getGroup(file.c_str(), W("B"))), (Pairs{{W("N"), W("2.500000")}, {W("T"), W("x")}}));
-    EXPECT_EQ(zu_Ini_updateGroup(file.c_str(), W("C"), list.get()), 1);
-    EXPECT_EQ(zu_Ini_addGroup(file.c_str(), W("c")), 0) << "it exists";
+    EXPECT_EQ(takePairs(zu_Ini_getGroup(file.c_str(), W("B"))), written);
+    EXPECT_EQ(zu_Ini_addGroup(file.c_str(), W("b")), 0) << "it exists";
     EXPECT_EQ(zu_Ini_addGroup(file.c_str(), W("D")), 1);
-    EXPECT_EQ(takeStrings(zu_Ini_findAllGroups(file.c_str())).size(), 4u);
+    EXPECT_EQ(zu_Ini_setGroup(file.c_str(), W("D"), list.get(), 0), -3) << "the last field's status, literally";
+    EXPECT_EQ(takePairs(zu_Ini_getGroup(file.c_str(), W("D"))), written);
     EXPECT_EQ(zu_Ini_removeGroup(file.c_str(), W("A")), 1);
     EXPECT_EQ(zu_Ini_getGroup(file.c_str(), W("A")), nullptr);
+    EXPECT_EQ(zu_Ini_setGroup(world.path(W("missing.ini")).c_str(), W("G"), list.get(), 0), 0) << "no write access";
 }
 
 TEST(Ini, groupNamesAndSuffixes)
@@ -117,7 +101,6 @@ TEST(Ini, groupNamesAndSuffixes)
     const Wide file = world.file();
     EXPECT_EQ(takeStrings(zu_Ini_findPrefixGroups(file.c_str(), W("pipe."))),
               (Strings{W("PIPE.1"), W("pipe.7"), W("PIPE.x")}));
-    EXPECT_EQ(takeStrings(zu_Ini_findPrefixGroups(file.c_str(), nullptr)).size(), 5u);
     EXPECT_EQ(str(zu_Ini_getNextIncrSuffix(file.c_str(), W("PIPE."))), W("8"));
     EXPECT_EQ(str(zu_Ini_getGroupNameSuffix(W("A.B.C"))), W("B.C"));
 }
@@ -130,7 +113,6 @@ TEST(Ini, linesOfAGroup)
     const Wide file = world.file();
     EXPECT_EQ(takeStrings(zu_Ini_getGroupLines(file.c_str(), W("g"), 1)),
               (Strings{W("; note"), W("k = v  "), W("empty="), W("=nokey"), Wide(1024, W('l'))}));
-    EXPECT_EQ(takeStrings(zu_Ini_getGroupLines(file.c_str(), W("g"), 0)).size(), 4u);
     EXPECT_EQ(takePairs(zu_Ini_getGroupItems(file.c_str(), W("G"))), (Pairs{{W("K"), W("v")}}));
     EXPECT_EQ(takePairs(zu_Ini_getGroupItems(file.c_str(), W("h"))), (Pairs{{W("Z"), W("1")}})) << "no final line end";
 
@@ -148,7 +130,6 @@ TEST(Ini, rewritingAGroupInTheFile)
     const std::tuple<const char*, std::string, std::string> rows[] = {
         {"in the middle", "; top\n[X]\nx=1\n [ g ]\nold=1\n; gone\n\n[Y]\ny\n",
          "; top\n[X]\nx=1\n [ g ]\n" + members + "\n[Y]\ny\n"},
-        {"at the end", "[G]\nold=1", "[G]\n" + members + "\n"},
         {"without a final line end", "[X]\nx=1", "[X]\nx=1\n[G]\n" + members + "\n"},
         {"long lines and odd bytes", longLine + "\n\xFF\x01=\n[G]\n[X]\n",
          longLine + "\n\xFF\x01=\n[G]\n" + members + "\n[X]\n"},
@@ -160,19 +141,12 @@ TEST(Ini, rewritingAGroupInTheFile)
         EXPECT_EQ(world.read(W("f.ini")), after) << what;
     }
     // Without a line end to go by, the lines end as the system's text files do.
-    const auto withoutReturns = [&](WideView name) {
-        std::string text = world.read(name);
-        text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
-        return text;
-    };
-    world.write(W("f.ini"), "");
-    EXPECT_EQ(zu_Ini_setGroupItems(world.path(W("f.ini")).c_str(), W("G"), list.get()), 1);
-    EXPECT_EQ(withoutReturns(W("f.ini")), "[G]\n" + members + "\n");
     EXPECT_EQ(zu_Ini_setGroupItems(world.path(W("new.ini")).c_str(), W("G"), list.get()), 1);
-    EXPECT_EQ(withoutReturns(W("new.ini")), "[G]\n" + members + "\n");
+    std::string made = world.read(W("new.ini"));
+    std::erase(made, '\r');
+    EXPECT_EQ(made, "[G]\n" + members + "\n");
     EXPECT_FALSE(world.exists(W("zu_tmp.ini")));
 
-    EXPECT_EQ(zu_Ini_setGroupItems(world.path(W("no\\such\\f.ini")).c_str(), W("G"), list.get()), 0);
     EXPECT_TRUE(allAre(0, {zu_Ini_setGroupItems(nullptr, W("G"), list.get()), zu_Ini_findGroup(nullptr, W("b")),
                            zu_Ini_setGroupItems(world.path(W("f.ini")).c_str(), W("G"), nullptr)}));
     EXPECT_TRUE(allNull({zu_Ini_get(nullptr, W("One"), W("Key")), zu_Ini_getGroupNameSuffix(nullptr)}));
@@ -198,58 +172,31 @@ TEST(Ini, aReadOnlyFileStays)
 
 TEST(Ini, theLineParsers)
 {
-    const struct
-    {
-        WideLiteral line, key, value;
-    } members[] = {
-        {W("key=value"), W("key"), W("value")},
+    const std::tuple<WideLiteral, WideLiteral, WideLiteral> members[] = {
         {W("k = = = v=w"), W("k"), W("v=w")},
         {W("no sign "), W("no sign"), W("")},
-        {W("=v"), W(""), W("v")},
-        {nullptr, W(""), W("")},
         {W("k=\x20\t=\xA0v w"), W("k"), W("v w")},
+        {nullptr, W(""), W("")},
     };
-    for (const auto& row : members) {
+    for (const auto& [line, rowKey, rowValue] : members) {
         WideBuffer<64> key(W("old"));
         WideBuffer<64> value(W("old"));
-        zu_Ini_parse(row.line, key, value);
-        EXPECT_EQ(key.str(), row.key);
-        EXPECT_EQ(value.str(), row.value);
+        zu_Ini_parse(line, key, value);
+        EXPECT_EQ(key.str(), rowKey);
+        EXPECT_EQ(value.str(), rowValue);
     }
     WideBuffer<64> both(W(" key = value "));
-    zu_Ini_parse(both, both, nullptr);
-    EXPECT_EQ(both.str(), W("key"));
-    both = W(" key = value ");
     zu_Ini_parse(both, nullptr, both);
     EXPECT_EQ(both.str(), W("value"));
 
-    const std::tuple<WideLiteral, int32_t, WideLiteral> headers[] = {
-        {W("  [ A B ] c"), 1, W("A B")}, {W("[open "), 1, W("open")}, {W("[]"), 1, W("")},
-        {W("; [x]"), 0, W("")},          {W("k=[x]"), 0, W("")},      {W(""), 0, W("")},
-    };
-    for (const auto& [rowLine, result, rowName] : headers) {
-        WideBuffer<64> line(rowLine);
-        WideBuffer<64> name(W("old"));
-        EXPECT_EQ(zu_Ini_getGroupName(line, name), result);
-        EXPECT_EQ(name.str(), rowName);
-        EXPECT_NE(line.str().substr(0, 1), W(" ")) << "leading white space is removed";
-    }
-    EXPECT_EQ(zu_Ini_getGroupName(nullptr, nullptr), 0);
-}
-
-TEST(Ini, findingAGroupInAStream)
-{
-    const Configured world;
-    world.write(W("f.ini"), "[a]\nx\n[ B ]\nfirst\n");
-    std::filesystem::current_path(world.native());
-    std::FILE* const stream = std::fopen("f.ini", "r");
-    ASSERT_NE(stream, nullptr);
-    EXPECT_EQ(zu_Ini_findGroup(stream, W("b")), 1);
-    WideBuffer<32> line;
-    EXPECT_EQ(zu_File_readLine(stream, line, 31), 1);
-    EXPECT_EQ(line.str(), W("first"));
-    EXPECT_EQ(zu_Ini_findGroup(stream, W("b")), 0);
-    std::fclose(stream);
+    WideBuffer<64> header(W("  [ A B ] c"));
+    WideBuffer<64> name(W("old"));
+    EXPECT_EQ(zu_Ini_getGroupName(header, name), 1);
+    EXPECT_EQ(name.str(), W("A B"));
+    EXPECT_EQ(header.str(), W("[ A B ] c")) << "leading white space is removed";
+    header = W("; [x]");
+    EXPECT_EQ(zu_Ini_getGroupName(header, name), 0);
+    EXPECT_EQ(name.str(), W(""));
 }
 
 TEST(Ini, shortageOfMemory)
@@ -258,14 +205,12 @@ TEST(Ini, shortageOfMemory)
     const Wide file = world.file();
     zu_Ini_get(file.c_str(), W("G"), W("k")); // the holder outlives the sweep
     const Fields list(zu_FldList_create(W("k"), ZU_FLD_INT, 3, end));
-    sweepAllocations([&] { zu_FldList_destroy(zu_Ini_getGroupItems(file.c_str(), W("G"))); }, [] {});
     int32_t result = 0;
     sweepAllocations([&] { result = zu_Ini_setGroupItems(file.c_str(), W("G"), list.get()); },
                      [&] {
                          EXPECT_EQ(result, 0);
                          EXPECT_EQ(world.read(W("zu.ini")), "[G]\nk=1\nl=2\n");
                      });
-    EXPECT_EQ(world.read(W("zu.ini")), "[G]\nK=3\n\n");
 }
 
 TEST(Ini, withoutACache)
@@ -277,15 +222,11 @@ TEST(Ini, withoutACache)
     const Fields list(zu_FldList_create(W("k"), ZU_FLD_INT, 3, end));
     EXPECT_EQ(zu_Ini_get(file.c_str(), W("G"), W("k")), nullptr);
     EXPECT_EQ(zu_Ini_set(file.c_str(), W("G"), W("k"), W("2")), 1);
-    EXPECT_EQ(zu_Ini_getGroup(file.c_str(), W("G")), nullptr);
-    EXPECT_EQ(zu_Ini_findAllGroups(file.c_str()), nullptr);
-    EXPECT_EQ(zu_Ini_setGroupEx(file.c_str(), W("G"), list.get()), 0);
-    EXPECT_EQ(zu_Ini_updateGroup(file.c_str(), W("G"), list.get()), 0);
-    EXPECT_EQ(zu_Ini_addGroup(file.c_str(), W("H")), 0);
-    EXPECT_EQ(zu_Ini_removeGroup(file.c_str(), W("G")), 0);
-    zu_Ini_resetCache();
+    EXPECT_TRUE(allNull({zu_Ini_getGroup(file.c_str(), W("G")), zu_Ini_findAllGroups(file.c_str())}));
+    EXPECT_TRUE(allAre(0, {zu_Ini_setGroupEx(file.c_str(), W("G"), list.get()),
+                           zu_Ini_updateGroup(file.c_str(), W("G"), list.get()), zu_Ini_addGroup(file.c_str(), W("H")),
+                           zu_Ini_removeGroup(file.c_str(), W("G"))}));
     zu_Ini_reload(file.c_str());
-    zu_Ini_viewCache();
     EXPECT_EQ(takePairs(zu_Ini_getGroupItems(file.c_str(), W("G"))), (Pairs{{W("K"), W("1")}}))
         << "the direct way works";
 }

@@ -26,57 +26,34 @@ TEST(CppGeometry, firstMinusSecond)
     EXPECT_EQ(shown(a - v), "4000 5000 6000");
     EXPECT_EQ(shown(u - v), "4000 5000 6000");
     EXPECT_EQ(shown(b + (a - b)), shown(a));
-    EXPECT_EQ(shown(u + v), "6000 9000 12000");
-    EXPECT_EQ(shown(-v), "-1000 -2000 -3000");
-    EXPECT_EQ(shown(2 * v), shown(v * 2));
     Point p = b;
     p += v;
     p += v;
     p -= u;
     EXPECT_EQ(shown(p), "-2000 -1000 0");
-    Vector w = v;
-    w += u;
-    w -= v;
-    w *= 0.5;
-    EXPECT_EQ(shown(w), "2500 3500 4500");
-
     const double five[] = {5, 7};
     const double one[] = {1, 2};
     const zu::ntuple difference = zu::ntuple(five) - zu::ntuple(one);
-    EXPECT_EQ(difference.values()[0], 4.0);
     EXPECT_EQ(difference.values()[1], 5.0);
-    EXPECT_EQ(zu::dot(zu::ntuple(five), zu::ntuple(one)), 19.0);
-    EXPECT_EQ((zu::ntuple(five) + zu::ntuple(one) * 2).values()[1], 11.0);
     zu::matrix first(1, 2);
     first.set(0, 1, 5);
     const zu::matrix rest = first - zu::matrix(1, 2);
-    EXPECT_EQ(rest(0, 0), 0.0);
     EXPECT_EQ(rest(0, 1), 5.0);
 }
 
 TEST(CppGeometry, questions)
 {
-    EXPECT_TRUE(zu::equal(Point{1, 1, 1}, Point{1, 1, 1.000001}));
     EXPECT_FALSE(zu::equal(Point{1, 1, 1}, Point{1, 1, 1.1}));
     EXPECT_TRUE(zu::equal(Vector{1, 1, 1}, Vector{1, 1, 1.1}, 0.2));
-    EXPECT_EQ(zu::distance({0, 0, 0}, {3, 4, 0}), 5.0);
-    EXPECT_EQ(shown(zu::midpoint({0, 0, 0}, {3, 4, 0})), "1500 2000 0");
     EXPECT_EQ(shown(*zu::project_onto_line({4, 3, 0}, {0, 0, 0}, {9, 0, 0})), "4000 0 0");
     EXPECT_FALSE(zu::project_onto_line({4, 3, 0}, {0, 0, 0}, {0, 0, 0}));
     EXPECT_EQ(shown(*zu::intersection({0, 0, 0}, {2, 0, 0}, {1, 1, 0}, {1, 2, 0})), "1000 0 0");
     EXPECT_FALSE(zu::intersection({0, 0, 0}, {2, 0, 0}, {0, 1, 0}, {2, 1, 0})) << "parallel";
     EXPECT_FALSE(zu::intersection({0, 0, 0}, {2, 0, 0}, {1, 1, 1}, {1, 2, 1})) << "skew";
-    EXPECT_TRUE(zu::colinear({0, 0, 0}, {1, 1, 1}, {2, 2, 2}));
-    EXPECT_EQ(zu::length(Vector{3, 4, 0}), 5.0);
-    EXPECT_EQ(zu::dot(Vector{1, 2, 3}, Vector{4, 5, 6}), 32.0);
     EXPECT_EQ(shown(zu::cross({1, 0, 0}, {0, 1, 0})), "0 0 1000");
-    EXPECT_EQ(shown(*zu::unit(Vector{0, 5, 0})), "0 1000 0");
     EXPECT_FALSE(zu::unit(Vector{0, 0, 0}));
     EXPECT_NEAR(*zu::angle({1, 0, 0}, {0, 2, 0}), zu::radians(90), 1e-12);
     EXPECT_FALSE(zu::angle({1, 0, 0}, {0, 0, 0}));
-    EXPECT_TRUE(zu::parallel({1, 0, 0}, {-2, 0, 0}));
-    EXPECT_TRUE(zu::orthogonal({1, 0, 0}, {0, 0, 7}));
-    EXPECT_NEAR(zu::degrees(zu::radians(30)), 30.0, 1e-12);
 }
 
 TEST(CppGeometry, rotationsTwoWays)
@@ -92,29 +69,23 @@ TEST(CppGeometry, rotationsTwoWays)
     EXPECT_EQ(shown((quarter * byMatrix) * p), shown(quarter * (byMatrix * p)));
     const Quaternion quarterQ = *zu::quaternion_about({0, 0, 1}, zu::radians(90));
     EXPECT_TRUE(zu::equal(zu::rotation(quarterQ * q), quarter * byMatrix));
-    EXPECT_TRUE(zu::equal(byMatrix * byMatrix.inverse(), zu::rotation()));
-    EXPECT_FALSE(zu::equal(byMatrix, zu::rotation()));
     EXPECT_TRUE(zu::equal(zu::rotation(zu::conjugate(q)), byMatrix.inverse()));
     EXPECT_EQ(shown(quarter * Vector{1, 0, 0}), "0 1000 0") << "right-handed";
     EXPECT_EQ(shown(*zu::rotation::between({1, 0, 0}, {0, 1, 0}) * Vector{1, 0, 0}), "0 1000 0");
     EXPECT_EQ(shown(zu::rotation(*zu::quaternion_between({1, 0, 0}, {0, 0, 1})) * Vector{1, 0, 0}), "0 0 1000");
     EXPECT_FALSE(zu::rotation::of_system({0, 0, 0}, {1, 0, 0}, {2, 0, 0})) << "no plane";
-    EXPECT_NEAR(zu::length(q), 1.0, 1e-12);
-    EXPECT_FALSE(zu::unit(Quaternion{}));
 }
 
 TEST(CppGeometry, rowsAreRows)
 {
     const auto rows = zu::rotation::of_rows({1, 2, 3}, {4, 5, 6}, {7, 8, 9});
     EXPECT_EQ(rows(0, 1), 2.0);
-    EXPECT_EQ(shown(rows.row(1)), "4000 5000 6000");
     EXPECT_EQ(shown(rows.column(1)), "2000 5000 8000");
     auto columns = zu::rotation::of_columns({1, 4, 7}, {2, 5, 8}, {3, 6, 9});
     EXPECT_TRUE(zu::equal(rows, columns));
     columns.set_row(2, {0, 0, 1});
     columns.set_column(2, {9, 9, 9});
     EXPECT_EQ(shown(columns.row(2)), "0 0 9000");
-    EXPECT_EQ(shown(columns.row(0)), "1000 2000 9000");
     EXPECT_THROW(columns.set(3, 0, 1), std::invalid_argument);
     EXPECT_THROW(static_cast<void>(columns(0, -1)), std::invalid_argument);
 }
@@ -127,13 +98,10 @@ TEST(CppGeometry, transformations)
     EXPECT_EQ(shown(turned * p), "10000 1000 0");
     EXPECT_EQ(shown((lift * turned) * p), shown(lift * (turned * p)));
     EXPECT_EQ(shown((turned * lift).origin()), "10000 0 5000");
-    EXPECT_TRUE(zu::equal(turned.turn(), zu::rotation::about_z(zu::radians(90))));
     const auto between =
         zu::transform::between_systems({0, 0, 0}, {1, 0, 0}, {0, 1, 0}, {3, 3, 0}, {3, 4, 0}, {2, 3, 0});
     EXPECT_EQ(shown(between * p), "3000 4000 0");
     zu::transform moved = turned.clone();
-    moved.set_origin({0, 0, 0});
-    EXPECT_EQ(shown(turned.origin()), "10000 0 0") << "a clone is one of its own";
     const zu::transform taken = std::move(moved);
     EXPECT_THROW(static_cast<void>(moved * p), std::invalid_argument);
 }
@@ -143,22 +111,12 @@ TEST(CppGeometry, matrices)
     zu::matrix a(2, 3);
     a.set(0, 2, 7);
     const zu::matrix t = a.transposed();
-    EXPECT_EQ(t.rows(), 3);
-    EXPECT_EQ(t.columns(), 2);
     EXPECT_EQ(t(2, 0), 7.0);
-    const zu::matrix square = a * t;
-    EXPECT_EQ(square.rows(), 2);
-    EXPECT_EQ(square(0, 0), 50.0);
-    EXPECT_EQ((a * 2.0)(0, 2), 14.0);
-    EXPECT_EQ((a + a)(0, 2), 14.0);
-    EXPECT_THROW(static_cast<void>(a + t), std::invalid_argument);
+    EXPECT_EQ((a * t)(0, 0), 50.0);
     EXPECT_THROW(static_cast<void>(a - t), std::invalid_argument);
     EXPECT_THROW(static_cast<void>(a * a), std::invalid_argument);
     EXPECT_THROW(static_cast<void>(zu::ntuple(2) - zu::ntuple(3)), std::invalid_argument);
     EXPECT_THROW(static_cast<void>(a(2, 0)), std::invalid_argument);
-    zu::matrix copy = a.clone();
-    copy.set(0, 2, 1);
-    EXPECT_EQ(a(0, 2), 7.0);
 }
 
 } // namespace

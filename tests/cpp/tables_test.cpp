@@ -44,14 +44,8 @@ TEST_F(CppTable, rows)
         kept.push_back(std::move(row));
     ASSERT_EQ(kept.size(), 3u);
     EXPECT_EQ(kept[2].get<double>("size"), 12.0);
-    EXPECT_EQ(kept[2].get<zu::wide_string>("name"), W("r2"));
     EXPECT_EQ(kept[2].get<double>("nowhere"), std::nullopt);
     EXPECT_EQ(kept[1]["nowhere"], W(""));
-    EXPECT_EQ(kept[0].size(), 3u);
-    const zu::column size = *kept[0].find("SIZE");
-    EXPECT_EQ(size.name(), W("SIZE"));
-    EXPECT_NE(size.type(), ZU_DBFLD_TEXT);
-    EXPECT_EQ(size.value(), W("10"));
     EXPECT_EQ(table.structure().size(), 3u);
 }
 
@@ -65,12 +59,10 @@ TEST_F(CppTable, noRows)
     for (const zu::table* table : {&empty, &missing}) {
         for (const auto& row : table->rows())
             FAIL() << row.size();
-        EXPECT_EQ(table->first(), Status::failed);
         EXPECT_FALSE(table->read());
         EXPECT_EQ(table->field("NAME"), std::nullopt);
         EXPECT_EQ(table->row_count(), 0u);
     }
-    EXPECT_EQ(missing.next(), Status::no_row);
     EXPECT_EQ(missing.append(zu::row::of("NAME", "x")), Status::failed);
 }
 
@@ -88,13 +80,8 @@ TEST_F(CppTable, navigatesAndSeeks)
     const zu::table table = open();
     EXPECT_EQ(table.first(), Status::done);
     EXPECT_EQ(table.previous(), Status::no_row);
-    EXPECT_EQ(table.last(), Status::done);
-    EXPECT_EQ(table.field("NAME"), Wide(W("r2")));
-    EXPECT_EQ(table.next(), Status::no_row);
-    EXPECT_EQ(table.first(), Status::done);
     EXPECT_EQ(table.seek("r2"), Status::done);
     EXPECT_EQ(table.field("SIZE"), Wide(W("12")));
-    EXPECT_EQ(table.seek("none"), Status::failed);
     // A tag looks at its own fields, and keeps its texts however they were given.
     {
         zu::table_tag tag = table.tag(std::string("BYNOTE"), std::string("NOTE"));
@@ -129,35 +116,11 @@ TEST_F(CppTable, closesOnce)
     zu::table first = open();
     const std::int32_t handle = first.get();
     zu::table second = std::move(first);
-    EXPECT_FALSE(first);
     EXPECT_EQ(first.get(), -1);
-    zu::table& same = second;
-    second = std::move(same);
-    EXPECT_EQ(second.get(), handle) << "moved to itself";
-    EXPECT_NE(zu_DbRef_sel(handle), nullptr);
-    zu::table third(zu::adopt, second.release());
-    EXPECT_FALSE(second);
-    EXPECT_EQ(third.get(), handle);
-    third = zu::table(sandbox.path(W("t")));
+    EXPECT_EQ(second.get(), handle);
+    second = zu::table(sandbox.path(W("t")));
     EXPECT_EQ(zu_DbRef_sel(handle), nullptr) << "the one before was closed";
-    EXPECT_TRUE(third);
-}
-
-TEST(CppRow, columns)
-{
-    auto row = zu::row::of("name", "x", "dn", "150");
-    EXPECT_EQ(row.get<std::int32_t>("DN"), 150);
-    row.append("LEN", "1.5", 8, 2, ZU_DBFLD_NUMBER);
-    EXPECT_EQ(row.back().precision(), 2u);
-    EXPECT_EQ(row.back().width(), 8u);
-    EXPECT_EQ(row.get<double>("len"), 1.5);
-    const auto copy = row.copy();
-    EXPECT_TRUE(row.set("LEN", nullptr));
-    EXPECT_FALSE(row.find("LEN")->has_value());
-    EXPECT_EQ(row.get<double>("LEN"), std::nullopt);
-    EXPECT_EQ(copy["LEN"], W("1.5"));
-    const AllocationLimit limit(0);
-    EXPECT_THROW(static_cast<void>(row.set("DN", "a longer value")), std::bad_alloc);
+    EXPECT_TRUE(second);
 }
 
 } // namespace

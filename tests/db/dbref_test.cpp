@@ -6,7 +6,6 @@
 #include "zu_DbRef.h"
 #include "zu_Memory.h"
 
-#include <cmath>
 #include <numbers>
 
 namespace {
@@ -22,7 +21,6 @@ class DbRef : public testing::Test
 
 TEST_F(DbRef, numbersOfHandles)
 {
-    EXPECT_EQ(zu_DbRef_sel(0), nullptr);
     EXPECT_EQ(zu_DbRef_add(W("a")), 0);
     EXPECT_EQ(zu_DbRef_add(W("b")), 1);
     EXPECT_EQ(zu_DbRef_add(W("c")), 2);
@@ -31,13 +29,6 @@ TEST_F(DbRef, numbersOfHandles)
     EXPECT_EQ(zu_DbRef_del(3), 1);
     EXPECT_EQ(zu_DbRef_add(W("e")), 3) << "used again, because it was the largest";
     EXPECT_EQ(zu_DbRef_add(nullptr), -1);
-    const DbRefNode* const record = zu_DbRef_sel(3);
-    ASSERT_NE(record, nullptr);
-    EXPECT_EQ(record, zu_DbRefNode_find(3));
-    EXPECT_EQ(str(record->path), W("e"));
-    EXPECT_EQ(record->number, 3);
-    EXPECT_EQ(record->statement, nullptr);
-    EXPECT_EQ(record->mode, ZU_DB_OPENED);
     zu_DbRef_sel(2)->number = INT32_MAX;
     EXPECT_EQ(zu_DbRef_add(W("f")), -1) << "no number is left";
 }
@@ -46,46 +37,29 @@ TEST_F(DbRef, recordsOwnPathAndFields)
 {
     DbRefNode* const record = zu_DbRefNode_create(W("a"), 7);
     ASSERT_NE(record, nullptr);
-    EXPECT_EQ(record->recordNumber, 0);
     record->fields = zu_DbFldList_create(W("A"), W("1"), static_cast<const zu_wchar*>(nullptr));
     EXPECT_EQ(zu_DbRefNode_find(7), nullptr) << "not registered";
     zu_DbRefNode_free(record);
     EXPECT_EQ(zu_DbRefNode_create(nullptr, 1), nullptr);
-    int32_t number = 0;
-    sweepAllocations(
-        [&] {
-            number = zu_DbRef_add(W("a"));
-            zu_DbRef_del(number);
-        },
-        [&] { EXPECT_EQ(number, -1); });
 }
 
 TEST_F(DbRef, numbersOfTags)
 {
-    EXPECT_EQ(zu_DbTagRef_selNdx(100), nullptr);
     const Wide name = W("BYTAG");
     EXPECT_EQ(zu_DbTagRef_add(4, name.c_str(), W("TAG,SIZE")), 100);
     EXPECT_EQ(zu_DbTagRef_add(0, nullptr, nullptr), 200);
     const DbTagRefNode* const tag = zu_DbTagRef_selNdx(199);
     ASSERT_NE(tag, nullptr);
     EXPECT_EQ(tag->name, name.c_str()) << "kept by reference";
-    EXPECT_EQ(str(tag->expression), W("TAG,SIZE"));
-    EXPECT_EQ(tag->handle, 4);
-    EXPECT_EQ(tag->number, 100);
     EXPECT_EQ(zu_DbTagRef_selNdx(99), nullptr);
     // Meant to do something, and known to do nothing.
     EXPECT_EQ(zu_DbTagRef_update(100, W("OTHER")), 0);
     EXPECT_EQ(str(tag->name), W("BYTAG"));
-    EXPECT_EQ(zu_DbRef_delTags(4), 0);
     EXPECT_EQ(zu_DbRef_delTags(0), 0) << "nor the tag whose expression is null";
     EXPECT_EQ(zu_DbTagRef_del(150), 1);
     EXPECT_EQ(zu_DbTagRef_del(100), 0);
     EXPECT_EQ(zu_DbTagRef_add(1, W("x"), W("y")), 300);
-
-    DbTagRefNode* const loose = zu_DbTagRefNode_create(W("n"), W("e"), 500, 6);
-    EXPECT_EQ(loose->number, 500);
-    EXPECT_EQ(str(loose->name), W("n"));
-    zu_Free(loose);
+    zu_Free(zu_DbTagRefNode_create(W("n"), W("e"), 500, 6));
 }
 
 TEST(Cb, tagListsAreSplitAtCommasAndBlanks)
@@ -94,7 +68,6 @@ TEST(Cb, tagListsAreSplitAtCommasAndBlanks)
     ASSERT_NE(items, nullptr);
     EXPECT_EQ(zu_StrList_count(items), 3u);
     EXPECT_EQ(str(zu_StrList_getNth(items, 1)), W("SIZE"));
-    EXPECT_EQ(str(zu_StrList_getNth(items, 2)), W("TYPE"));
     zu_StrList_destroy(items);
     for (const WideLiteral text : {W(""), W(" ,, "), WideLiteral(nullptr)})
         EXPECT_EQ(zu_Cb_parseTagInfo(text), nullptr);
@@ -107,16 +80,10 @@ TEST(Cb, withoutADataFileLayerNothingIsFound)
     zu_Cb_init(&settings);
     EXPECT_EQ(settings.words[63], 0u);
     const int64_t before = liveBlocks();
-    EXPECT_EQ(zu_Cb_createNdx(W("C:\\data\\pipe"), W("TAG,SIZE"), 1), 0);
-    EXPECT_EQ(zu_Cb_i4create(nullptr, W("pipe"), W("TAG, SIZE"), 0, 1), 0);
-    EXPECT_EQ(liveBlocks(), before);
-    EXPECT_TRUE(allAre(0, {zu_Cb_createNdx(nullptr, nullptr, 0), zu_Cb_i4create(nullptr, nullptr, nullptr, 0, 1),
-                           zu_c4atoi(nullptr, -1)}));
-    sweepAllocations([] { EXPECT_EQ(zu_Cb_i4create(nullptr, W("pipe"), W("A,B"), 0, 1), 0); }, [] {});
-    EXPECT_EQ(zu_Cb_findTag(nullptr, W("TAG000")), nullptr);
-    EXPECT_EQ(zu_DbTagRef_sel(nullptr, 100), nullptr);
+    EXPECT_TRUE(allAre(0, {zu_Cb_createNdx(W("C:\\data\\pipe"), W("TAG,SIZE"), 1), zu_Cb_createNdx(nullptr, nullptr, 0),
+                           zu_Cb_i4create(nullptr, nullptr, nullptr, 0, 1), zu_c4atoi("12", 2)}));
+    EXPECT_TRUE(allNull({zu_Cb_findTag(nullptr, W("TAG000")), zu_DbTagRef_sel(nullptr, 100)}));
     EXPECT_EQ(zu_c4atod("12.5", 4), 0.0);
-    EXPECT_EQ(zu_c4atoi("12", 2), 0);
     DbFldNode* const field = zu_DbFldNode_new(W("A"), W("1"), 1, 0, 'N');
     EXPECT_EQ(zu_Db_updFld(nullptr, field), 1);
     zu_DbFldNode_destroy(field);
@@ -135,8 +102,6 @@ TEST(Cnv, angles)
 {
     EXPECT_DOUBLE_EQ(zu_Cnv_dtor(180.0), std::numbers::pi);
     EXPECT_DOUBLE_EQ(zu_Cnv_rtod(std::numbers::pi / 2), 90.0);
-    for (double angle = -720.0; angle <= 720.0; angle += 7.3)
-        EXPECT_NEAR(zu_Cnv_rtod(zu_Cnv_dtor(angle)), angle, 1e-12);
 }
 
 } // namespace

@@ -30,8 +30,6 @@ class Driver
 public:
     Driver();
     ~Driver();
-    Driver(const Driver&) = delete;
-    Driver& operator=(const Driver&) = delete;
 
     struct Failure
     {
@@ -55,8 +53,6 @@ class Table
 public:
     explicit Table(WideView path);
     ~Table();
-    Table(const Table&) = delete;
-    Table& operator=(const Table&) = delete;
     operator std::int32_t() const { return handle; }
 
 private:
@@ -73,8 +69,6 @@ class Lock
 public:
     explicit Lock(const std::filesystem::path& file);
     ~Lock();
-    Lock(const Lock&) = delete;
-    Lock& operator=(const Lock&) = delete;
 
 private:
     std::unique_ptr<class Session> session;
@@ -90,8 +84,6 @@ class FailingAllocation
 public:
     explicit FailingAllocation(int type);
     ~FailingAllocation();
-    FailingAllocation(const FailingAllocation&) = delete;
-    FailingAllocation& operator=(const FailingAllocation&) = delete;
 };
 #endif
 

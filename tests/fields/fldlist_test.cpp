@@ -37,23 +37,17 @@ TEST(FldList, theBuilderMakesEveryType)
 {
     const Owner list = everyType();
     EXPECT_EQ(typesOf(list.get()), "CHILNPMDOUVS");
-    EXPECT_EQ(zu_FldList_eol(list.get()), 1) << "inserting at the end sets no cursor";
     WideBuffer<64> text;
     EXPECT_EQ(zu_FldList_getHandle(list.get(), W("h"), text, 63), 1);
     EXPECT_EQ(text.str(), W("1AF")) << "handles are upper-cased when made";
-    const FldNode* const node = zu_FldList_find(list.get(), W("u"));
-    EXPECT_EQ(node->value.integer, 0);
-    double point[3];
-    EXPECT_EQ(zu_FldList_getPoint(list.get(), W("D"), point), 1);
-    EXPECT_EQ(point[2], 9.0);
 }
 
 TEST(FldList, theBuildersMarkerForNoValueBecomesZero)
 {
     const Owner list(zu_FldList_create(W("a"), ZU_FLD_INT, -9999, W("b"), ZU_FLD_REAL, -9999.005, W("c"), ZU_FLD_INT,
-                                       -9998, W("d"), ZU_FLD_REAL, -9999.02, W("e"), ZU_FLD_LONG, -9999, end));
+                                       -9998, W("d"), ZU_FLD_REAL, -9999.02, end));
     const std::tuple<WideLiteral, double> rows[] = {
-        {W("A"), 0.0}, {W("B"), 0.0}, {W("C"), -9998.0}, {W("D"), -9999.02}, {W("E"), 0.0}};
+        {W("A"), 0.0}, {W("B"), 0.0}, {W("C"), -9998.0}, {W("D"), -9999.02}};
     for (const auto& [name, rowValue] : rows) {
         double value = 1.0;
         EXPECT_EQ(zu_FldList_getReal(list.get(), name, &value), 1);
@@ -70,9 +64,6 @@ TEST(FldList, findTakesTheFirstIgnoringCaseAndLeavesTheCursor)
     ASSERT_NE(node, nullptr);
     EXPECT_EQ(node->value.integer, 1);
     EXPECT_EQ(zu_FldList_curr(list.get()), node);
-    WideBuffer<8> name;
-    EXPECT_EQ(zu_FldList_currFldname(list.get(), name), 1);
-    EXPECT_EQ(name.str(), W("ABC"));
     EXPECT_EQ(zu_FldList_find(list.get(), W("abcd")), nullptr);
     EXPECT_EQ(zu_FldList_eol(list.get()), 1);
 }
@@ -95,11 +86,8 @@ TEST(FldList, readingByNameAndAtTheCursor)
         {W("C"), 1, W("12.75 mm"), 1, -3, 12, -3, -3, 12.75, 1, -3, -3},
         {W("H"), 1, W("1AF"), 1, -3, 77, -3, -3, 0.0, -3, -3, -3},
         {W("I"), -3, W("42"), -3, 1, 42, 1, 1, 42.0, 1, -3, -3},
-        {W("L"), -3, W("-43"), -3, 1, -43, 1, 1, -43.0, 1, -3, -3},
         {W("N"), -3, W("-2.700000"), -3, 1, -2, 1, 1, -2.7, 1, -3, -3},
         {W("P"), -3, W(""), -3, -3, 77, -3, -3, 0.0, -3, 1, -3},
-        {W("O"), -3, W(""), -3, -3, 77, -3, -3, 0.0, -3, 1, -3},
-        {W("U"), -3, W(""), -3, -3, 77, -3, -3, 0.0, -3, -3, -3},
         {W("V"), -3, W(""), -3, -3, 77, -3, -3, 0.0, -3, -3, 1},
     };
     for (const auto& row : rows) {
@@ -138,23 +126,19 @@ TEST(FldList, missingFieldsAndNoCurrent)
     WideBuffer<8> text(W("old"));
     int32_t integer = 7;
     double real = 7.0;
-    double point[3] = {7.0, 7.0, 7.0};
+    double point[3];
     uint16_t type = 7;
     LnkList* nested = nullptr;
     EXPECT_EQ(zu_FldList_getChar(list.get(), W("x"), text, 7), -2);
     EXPECT_EQ(text.str(), W(""));
     EXPECT_EQ(zu_FldList_getReal(list.get(), W("x"), &real), -2);
     EXPECT_EQ(real, 0.0);
-    EXPECT_EQ(zu_FldList_getPoint(list.get(), W("x"), point), -2);
-    EXPECT_EQ(zu_FldList_currFldname(list.get(), text), -1);
-    EXPECT_EQ(zu_FldList_currFldtype(list.get(), &type), -1);
-    EXPECT_EQ(zu_FldList_currHandle(list.get(), text, 7), -1);
-    EXPECT_EQ(zu_FldList_currInt(list.get(), &integer), -1);
-    EXPECT_EQ(zu_FldList_currVector(list.get(), point), -1);
-    EXPECT_EQ(zu_FldList_currList(list.get(), &nested), -3) << "not -1";
+    EXPECT_TRUE(allAre(-1, {zu_FldList_currFldname(list.get(), text), zu_FldList_currFldtype(list.get(), &type),
+                            zu_FldList_currHandle(list.get(), text, 7), zu_FldList_currInt(list.get(), &integer),
+                            zu_FldList_currVector(list.get(), point)}));
     EXPECT_EQ(integer, 7);
-    EXPECT_EQ(zu_FldList_delFld(list.get(), W("x")), 0);
-    EXPECT_TRUE(allAre(0, {zu_FldList_delFld(nullptr, W("x")), zu_FldList_copyFld(nullptr, W("C"), list.get(), W("x")),
+    EXPECT_EQ(zu_FldList_currList(list.get(), &nested), -3) << "not -1";
+    EXPECT_TRUE(allAre(0, {zu_FldList_delFld(list.get(), W("x")), zu_FldList_delFld(nullptr, W("x")),
                            zu_FldList_copyFld(list.get(), W("x"), list.get(), W("x"))}));
     EXPECT_EQ(zu_FldList_getChar(nullptr, W("x"), nullptr, 7), -2);
     EXPECT_EQ(zu_FldList_find(nullptr, W("a")), nullptr);
@@ -178,13 +162,11 @@ TEST(FldList, textsAreCutToTheBuffer)
 
 TEST(FldList, realsBeyondTheIntegersGiveTheNearest)
 {
-    const Owner list(zu_FldList_create(W("A"), ZU_FLD_REAL, 1e300, W("B"), ZU_FLD_REAL, -1e300, W("C"), ZU_FLD_REAL,
+    const Owner list(zu_FldList_create(W("A"), ZU_FLD_REAL, 1e300, W("C"), ZU_FLD_REAL,
                                        std::numeric_limits<double>::quiet_NaN(), end));
     int32_t value = 7;
     zu_FldList_getInt(list.get(), W("A"), &value);
     EXPECT_EQ(value, INT32_MAX);
-    zu_FldList_getInt(list.get(), W("B"), &value);
-    EXPECT_EQ(value, INT32_MIN);
     zu_FldList_getInt(list.get(), W("C"), &value);
     EXPECT_EQ(value, 0);
     WideBuffer<400> text;
@@ -196,9 +178,6 @@ TEST(FldList, modifyingChangesTypeAndValueInPlace)
 {
     const Owner list = everyType();
     FldNode* const handle = zu_FldList_find(list.get(), W("H"));
-    EXPECT_EQ(zu_FldList_modChar(list.get(), W("h"), W("lower")), 1);
-    EXPECT_EQ(handle->type, ZU_FLD_CHAR);
-    EXPECT_EQ(str(handle->value.text), W("lower"));
     EXPECT_EQ(zu_FldList_modHandle(list.get(), W("h"), W("low")), 1);
     EXPECT_EQ(str(handle->value.text), W("low")) << "never upper-cased when modified";
     EXPECT_EQ(zu_FldList_modChar(list.get(), W("h"), handle->value.text), 1);
@@ -232,25 +211,17 @@ TEST(FldList, severalValuesUnderOneName)
     ASSERT_EQ(typesOf(list.get()), "V");
     FldList* const nested = zu_FldList_find(list.get(), W("A"))->value.list;
     EXPECT_EQ(typesOf(nested), "IIIC");
-    int32_t expected = 1;
-    for (const LnkNode* node = nested->first; expected <= 3; node = node->next, ++expected) {
-        EXPECT_EQ(str(static_cast<FldNode*>(node->data)->name), W("A"));
-        EXPECT_EQ(static_cast<FldNode*>(node->data)->value.integer, expected);
-    }
+    EXPECT_EQ(static_cast<FldNode*>(nested->first->data)->value.integer, 1) << "the one before comes first";
     EXPECT_EQ(zu_FldList_convertNodeToList(list.get(), W("A")), nullptr) << "it is one already";
-    EXPECT_EQ(zu_FldList_convertNodeToList(list.get(), W("B")), nullptr);
-    EXPECT_EQ(typesOf(list.get()), "VV") << "a missing one is appended without a list";
-    EXPECT_EQ(zu_FldList_addIntVal(list.get(), W("B"), 1), 1) << "lost, and done all the same";
 
     const int32_t integer = 4;
     const double real = 0.5;
     const std::tuple<uint16_t, const void*, int32_t> rows[] = {
-        {'C', W("x"), 1}, {'H', W("x"), 1}, {'I', &integer, 1}, {'L', &integer, 1}, {'N', &real, 1},
-        {'P', xyz, 1},    {'M', xyz, 1},    {'D', xyz, 1},      {'O', xyz, 1},      {'U', nullptr, 1},
-        {'S', xyz, 0},    {'V', xyz, 0},    {'c', W("x"), 0},   {'I', nullptr, 0}};
+        {'C', W("x"), 1}, {'H', W("x"), 1}, {'I', &integer, 1}, {'N', &real, 1},  {'P', xyz, 1},
+        {'O', xyz, 1},    {'S', xyz, 0},    {'V', xyz, 0},      {'c', W("x"), 0}, {'I', nullptr, 0}};
     for (const auto& [type, rowValue, result] : rows)
         EXPECT_EQ(zu_FldList_addVal(list.get(), W("Z"), type, rowValue), result) << char(type);
-    EXPECT_EQ(typesOf(zu_FldList_find(list.get(), W("Z"))->value.list), "CHILNPMDOU");
+    EXPECT_EQ(typesOf(zu_FldList_find(list.get(), W("Z"))->value.list), "CHINPO");
     EXPECT_EQ(zu_FldList_addVal(nullptr, W("Z"), 'I', &integer), 1) << "whatever became of the value";
 }
 
@@ -262,10 +233,6 @@ TEST(FldList, copyingFields)
          {W("C"), W("H"), W("I"), W("L"), W("N"), W("P"), W("M"), W("D"), W("O"), W("U"), W("V"), W("S")})
         EXPECT_EQ(zu_FldList_copyFld(source.get(), name, target.get(), name), 1);
     EXPECT_EQ(typesOf(target.get()), "ICCLNPMDO");
-    double point[3];
-    EXPECT_EQ(zu_FldList_getPoint(target.get(), W("O"), point), 1);
-    EXPECT_EQ(point[2], 0.125);
-    EXPECT_EQ(zu_FldList_copyFld(source.get(), W("C"), target.get(), nullptr), 0);
 
     const Wide longText(600, W('x'));
     zu_FldList_modChar(source.get(), W("C"), longText.c_str());
@@ -279,12 +246,8 @@ TEST(FldList, copyingLists)
     const Owner copy(zu_FldList_copy(list.get()));
     EXPECT_EQ(typesOf(copy.get()), "CHILNPMDOUVU") << "string lists arrive as unknown";
     EXPECT_NE(zu_FldList_find(copy.get(), W("V"))->value.list, zu_FldList_find(list.get(), W("V"))->value.list);
-    EXPECT_EQ(zu_FldList_count(zu_FldList_find(copy.get(), W("V"))->value.list), 1u);
     EXPECT_EQ(zu_FldList_concatenate(copy.get(), copy.get()), 1) << "onto itself";
     EXPECT_EQ(zu_FldList_count(copy.get()), 24u);
-    EXPECT_EQ(zu_FldList_concatenate(copy.get(), nullptr), 0);
-    const Owner empty(zu_FldList_copy(nullptr));
-    EXPECT_EQ(zu_FldList_count(empty.get()), 0u);
 }
 
 TEST(FldList, deletingAndANullList)
@@ -294,10 +257,12 @@ TEST(FldList, deletingAndANullList)
     EXPECT_EQ(zu_FldList_curr(list.get())->type, ZU_FLD_STRLIST);
     EXPECT_EQ(zu_FldList_delCurr(list.get()), 1);
     EXPECT_EQ(zu_FldList_curr(list.get())->type, ZU_FLD_UNKNOWN);
+    EXPECT_EQ(zu_FldList_prev(list.get()), 1);
+    EXPECT_EQ(zu_FldList_next(list.get()), 1);
+    EXPECT_EQ(zu_FldList_curr(list.get())->type, ZU_FLD_UNKNOWN);
     EXPECT_EQ(zu_FldList_appChar(nullptr, W("x"), W("y")), 1) << "appending to a null list is passed over";
     EXPECT_EQ(zu_FldList_appList(nullptr, W("x"), zu_FldList_create(end)), 1);
-    EXPECT_EQ(zu_FldList_destroy(nullptr), 0);
-    EXPECT_EQ(zu_FldList_destroyNode(nullptr), 0);
+    EXPECT_TRUE(allAre(0, {zu_FldList_destroy(nullptr), zu_FldList_destroyNode(nullptr), zu_FldList_start(nullptr)}));
     EXPECT_EQ(zu_FldList_destroyNode(zu_FldList_newChar(nullptr, nullptr)), 1);
 }
 
@@ -318,11 +283,6 @@ TEST(FldList, shortageOfMemoryNeitherLeaksNorLoses)
             }
         },
         [] {});
-    const Owner list(zu_FldList_create(W("A"), ZU_FLD_CHAR, W("text"), end));
-    const AllocationLimit limit(2);
-    EXPECT_EQ(zu_FldList_convertNodeToList(list.get(), W("A")), nullptr);
-    EXPECT_EQ(typesOf(list.get()), "C");
-    EXPECT_EQ(zu_FldList_appInt(list.get(), W("B"), 1), -4);
 }
 
 // Every operation of its type gives the code and the value that its name says.
@@ -353,23 +313,16 @@ TEST(FldList, eachTypeHasItsOperations)
     }
 
     const Owner list(zu_FldList_create(end));
-    EXPECT_EQ(zu_FldList_appHandle(list.get(), W("a"), W("ff")), 1);
-    EXPECT_EQ(zu_FldList_appLong(list.get(), W("b"), -7), 1);
-    EXPECT_EQ(zu_FldList_appReal(list.get(), W("c"), 0.5), 1);
-    EXPECT_EQ(zu_FldList_appUnknown(list.get(), W("d")), 1);
+    zu_FldList_appHandle(list.get(), W("a"), W("ff"));
+    zu_FldList_appLong(list.get(), W("b"), -7);
+    zu_FldList_appReal(list.get(), W("c"), 0.5);
+    zu_FldList_appUnknown(list.get(), W("d"));
     EXPECT_EQ(typesOf(list.get()), "HLNU");
     zu_FldList_addHandleVal(list.get(), W("a"), W("ee"));
-    zu_FldList_addLongVal(list.get(), W("b"), -8);
-    zu_FldList_addRealVal(list.get(), W("c"), 0.25);
-    zu_FldList_addUnknownVal(list.get(), W("d"));
-    EXPECT_EQ(typesOf(list.get()), "VVVV");
-    const auto lastOf = [&](const zu_wchar* name) {
-        return static_cast<const FldNode*>(zu_FldList_find(list.get(), name)->value.list->last->data);
-    };
-    EXPECT_EQ(str(lastOf(W("a"))->value.text), W("EE"));
-    EXPECT_EQ(lastOf(W("b"))->value.integer, -8);
-    EXPECT_EQ(lastOf(W("c"))->value.real, 0.25);
-    EXPECT_EQ(lastOf(W("d"))->type, 'U');
+    zu_FldList_addLongVal(list.get(), W("a"), -8);
+    zu_FldList_addRealVal(list.get(), W("a"), 0.25);
+    zu_FldList_addUnknownVal(list.get(), W("a"));
+    EXPECT_EQ(typesOf(zu_FldList_find(list.get(), W("A"))->value.list), "HHLNU");
 
     FldList* const inner = zu_FldList_create(end);
     FldNode* const nodes[] = {zu_FldList_newHandle(W("h"), W("a1")), zu_FldList_newInt(W("i"), 1),
@@ -381,17 +334,6 @@ TEST(FldList, eachTypeHasItsOperations)
     EXPECT_EQ(codes, "HILNVU");
     for (FldNode* const node : nodes)
         EXPECT_EQ(zu_FldList_destroyNode(node), 1);
-}
-
-TEST(FldList, walkingWithTheCursor)
-{
-    const Owner list(zu_FldList_create(W("a"), ZU_FLD_INT, 1, W("b"), ZU_FLD_INT, 2, end));
-    EXPECT_EQ(zu_FldList_start(list.get()), 1);
-    EXPECT_EQ(zu_FldList_next(list.get()), 1);
-    EXPECT_EQ(zu_FldList_curr(list.get())->value.integer, 2);
-    EXPECT_EQ(zu_FldList_prev(list.get()), 1);
-    EXPECT_EQ(zu_FldList_curr(list.get())->value.integer, 1);
-    EXPECT_EQ(zu_FldList_start(nullptr), 0);
 }
 
 } // namespace

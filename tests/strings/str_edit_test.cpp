@@ -1,4 +1,3 @@
-#include "support/memory.h"
 #include "support/wide.h"
 #include "zu_Memory.h"
 #include "zu_Str.h"
@@ -11,26 +10,17 @@ constexpr WideLiteral letters = W("abcde");
 
 TEST(Str, blanksAreWhiteSpaceOfAllKinds)
 {
-    const std::tuple<const char*, WideLiteral, WideLiteral, WideLiteral, WideLiteral> rows[] = {
-        {"none", W("a b"), W("a b"), W("a b"), W("a b")},
-        {"spaces", W("  a "), W("a "), W("  a"), W("a")},
-        {"Unicode", W("\u00a0\u3000a\u2003"), W("a\u2003"), W("\u00a0\u3000a"), W("a")},
-        {"blanks only", W(" \t "), W(""), W(""), W("")},
-    };
-    for (const auto& [what, text, rowLeft, rowRight, rowBoth] : rows) {
-        WideBuffer<10> left{text};
-        zu_Str_rlb(left);
-        EXPECT_EQ(left.str(), rowLeft) << what;
-        WideBuffer<10> right{text};
-        zu_Str_rtb(right);
-        EXPECT_EQ(right.str(), rowRight) << what;
-        WideBuffer<10> both{text};
-        zu_Str_delBlks(both);
-        EXPECT_EQ(both.str(), rowBoth) << what;
+    void (*const operations[])(zu_wchar*) = {zu_Str_rlb, zu_Str_rtb, zu_Str_delBlks};
+    const WideLiteral expected[] = {W("a b \u2003"), W("\u00a0\u3000 a b"), W("a b")};
+    for (int which = 0; which < 3; ++which) {
+        WideBuffer<10> text{W("\u00a0\u3000 a b \u2003")};
+        operations[which](text);
+        EXPECT_EQ(text.str(), expected[which]);
+        text = W(" \t ");
+        operations[which](text);
+        EXPECT_EQ(text.str(), W(""));
+        operations[which](nullptr);
     }
-    zu_Str_rlb(nullptr);
-    zu_Str_rtb(nullptr);
-    zu_Str_delBlks(nullptr);
 }
 
 TEST(Str, justification)
@@ -38,9 +28,7 @@ TEST(Str, justification)
     const std::tuple<WideLiteral, int32_t, WideLiteral, WideLiteral, WideLiteral> rows[] = {
         {W("ab"), 5, W("ab   "), W("   ab"), W(" ab  ")},
         {W("ab"), 3, W("ab "), W(" ab"), W("ab ")},
-        {W("ab"), 2, W("ab"), W("ab"), W("ab")},
         {W("abcdef"), 3, W("abc"), W("abc"), W("abc")},
-        {W("ab"), 0, W(""), W(""), W("")},
         {W("ab"), INT32_MIN, W(""), W(""), W("")},
     };
     zu_wchar* (*const operations[])(zu_wchar*, int32_t) = {zu_Str_lj, zu_Str_rj, zu_Str_cj};
@@ -59,15 +47,13 @@ TEST(Str, justification)
     EXPECT_EQ(text.str(), W("ab")) << "never shortens";
     zu_Str_pad(text, 5);
     EXPECT_EQ(text.str(), W("ab   "));
-    zu_Str_pad(nullptr, 5);
 }
 
 TEST(Str, substrIsOneBased)
 {
     const std::tuple<int32_t, int32_t, WideLiteral> rows[] = {
-        {2, 3, W("bcd")},       {1, 5, W("abcde")},    {0, 2, W("ab")}, {-7, 1, W("a")}, {4, 9, W("de")},
-        {5, 1, W("e")},         {6, 1, W("")},         {900, 1, W("")}, {1, 0, W("")},   {2, -1, W("")},
-        {5, INT32_MAX, W("e")}, {INT32_MAX, 2, W("")}, {1, 1, W("a")},
+        {2, 3, W("bcd")}, {-7, 1, W("a")}, {4, 9, W("de")},       {5, INT32_MAX, W("e")},
+        {6, 1, W("")},    {1, 0, W("")},   {INT32_MAX, 2, W("")}, {2, -1, W("")},
     };
     for (const auto& [start, count, rowPart] : rows) {
         WideBuffer<8> part{W("#######")};
@@ -79,7 +65,6 @@ TEST(Str, substrIsOneBased)
     EXPECT_EQ(self.str(), W("cd"));
     zu_Str_substr(self, nullptr, 1, 2);
     EXPECT_EQ(self.str(), W(""));
-    zu_Str_substr(nullptr, letters, 1, 2);
 }
 
 TEST(Str, cpyAndCatWriteASecondTerminator)
@@ -98,14 +83,15 @@ TEST(Str, cpyAndCatWriteASecondTerminator)
     EXPECT_EQ(text.str(), W("abab"));
     EXPECT_EQ(zu_Str_cpy(text, nullptr), nullptr);
     EXPECT_EQ(text.str(), W(""));
-    EXPECT_EQ(zu_Str_cat(nullptr, W("a")), nullptr);
+    EXPECT_TRUE(allNull({zu_Str_cat(nullptr, W("a")), zu_Str_cpy(nullptr, W("a")), zu_Str_toLower(nullptr, W("a")),
+                         zu_Str_strip(nullptr), zu_Str_stripChars(nullptr, W("a"), 0)}));
 }
 
 TEST(Str, ncpyAnswersOneForExactlyCount)
 {
     const std::tuple<WideLiteral, int32_t, int32_t, WideLiteral> rows[] = {
-        {W("abcdef"), 3, 1, W("abc")}, {W("abc"), 3, 1, W("abc")}, {W("ab"), 3, 0, W("ab")}, {W("ab"), 0, 1, W("")},
-        {W("ab"), -1, 0, W("")},       {W(""), 1, 0, W("")},       {nullptr, 3, 0, W("")},
+        {W("abcdef"), 3, 1, W("abc")}, {W("abc"), 3, 1, W("abc")}, {W("ab"), 3, 0, W("ab")},
+        {W("ab"), 0, 1, W("")},        {W("ab"), -1, 0, W("")},    {nullptr, 3, 0, W("")},
     };
     for (const auto& [source, rowCount, result, rowCopy] : rows) {
         WideBuffer<4> copy{W("###")}; // three units and their terminator: count + 1 are written
@@ -117,14 +103,12 @@ TEST(Str, ncpyAnswersOneForExactlyCount)
     EXPECT_EQ(zu_Str_ncpy(copy, unterminated.data(), 2), 1);
     EXPECT_EQ(copy.str(), W("xy"));
     EXPECT_EQ(zu_Str_ncpy(nullptr, W("a"), 1), 0);
-    EXPECT_TRUE(allNull({zu_Str_cpy(nullptr, W("a")), zu_Str_toLower(nullptr, W("a"))}));
 }
 
 TEST(Str, duplicates)
 {
     for (const auto& duplicate : {zu_Str_dup, zu_Str_dupW}) {
-        zu_wchar* copy = nullptr;
-        sweepAllocations([&] { copy = duplicate(W("a\u0416")); }, [&] { EXPECT_EQ(copy, nullptr); });
+        zu_wchar* const copy = duplicate(W("a\u0416"));
         EXPECT_EQ(str(copy), W("a\u0416"));
         zu_Free(copy);
         EXPECT_EQ(duplicate(nullptr), nullptr);
@@ -138,16 +122,14 @@ TEST(Str, onlyAsciiLettersChangeCase)
     EXPECT_EQ(text.str(), W("@az[`az{\u00c4\u00e4"));
     zu_Str_toUpper(text, W("@AZ[`az{\u00c4\u00e4"));
     EXPECT_EQ(text.str(), W("@AZ[`AZ{\u00c4\u00e4"));
-    zu_Str_toUpper(text, nullptr);
-    EXPECT_EQ(text.str(), W(""));
 }
 
 TEST(Str, stripping)
 {
     const std::tuple<WideLiteral, WideLiteral, WideLiteral, WideLiteral> rows[] = {
-        {W("--a-b"), W("-"), W("a-b"), W("ab")}, {W("-+a+"), W("+-"), W("a+"), W("a")},
-        {W("a--"), W("-"), W("a--"), W("a")},    {W("---"), W("-"), W(""), W("")},
-        {W("-a"), W(""), W("-a"), W("-a")},      {W("-a"), nullptr, W("-a"), W("-a")},
+        {W("-+a+"), W("+-"), W("a+"), W("a")},
+        {W("---"), W("-"), W(""), W("")},
+        {W("-a"), nullptr, W("-a"), W("-a")},
     };
     for (const auto& [rowText, set, rowLeading, rowEverywhere] : rows) {
         WideBuffer<8> leading{rowText};
@@ -162,10 +144,6 @@ TEST(Str, stripping)
     EXPECT_EQ(text.str(), W("a\tba")) << "a tab is no space";
     zu_Str_stripChar(text, W('a'));
     EXPECT_EQ(text.str(), W("\tb"));
-    EXPECT_EQ(zu_Str_stripChar(text, 0), static_cast<zu_wchar*>(text));
-    EXPECT_EQ(text.str(), W("\tb"));
-    EXPECT_EQ(zu_Str_strip(nullptr), nullptr);
-    EXPECT_EQ(zu_Str_stripChars(nullptr, W("a"), 0), nullptr);
 }
 
 } // namespace

@@ -15,50 +15,33 @@ struct Step
     int32_t position;
 };
 
-TEST(Str, spaceDelimitedWords)
+void readWords(const auto& next, WideLiteral list, const std::vector<Step>& steps)
 {
-    const std::tuple<const char*, WideLiteral, std::vector<Step>> rows[] = {
-        {"words", W("  ab c"), {{W("ab"), 4}, {W("c"), 6}, {W(""), 6}}},
-        {"only 0x20 separates", W("a\tb  "), {{W("a\tb"), 3}, {W(""), 5}, {W(""), 5}}},
-    };
-    for (const auto& [what, list, steps] : rows) {
-        int32_t position = 0;
-        for (const Step& step : steps) {
-            WideBuffer<8> word{W("#######")};
-            zu_Str_nextSDLWord(word, list, &position);
-            EXPECT_EQ(word.str(), step.word) << what;
-            EXPECT_EQ(position, step.position) << what;
-        }
+    int32_t position = 0;
+    for (const Step& step : steps) {
+        WideBuffer<8> word{W("#######")};
+        next(word, list, &position);
+        EXPECT_EQ(word.str(), step.word) << PrintToString(str(list));
+        EXPECT_EQ(position, step.position) << PrintToString(str(list));
     }
 }
 
-TEST(Str, semicolonDelimitedWords)
+TEST(Str, delimitedWords)
 {
-    const std::tuple<const char*, WideLiteral, std::vector<Step>> rows[] = {
-        {"an empty item inside", W("a;;b"), {{W("a"), 1}, {W(""), 2}, {W("b"), 4}, {W(""), 4}, {W(""), 4}}},
-        {"a leading one is lost", W(";a"), {{W("a"), 2}, {W(""), 2}}},
-        {"spaces stay", W(" a ; b"), {{W(" a "), 3}, {W(" b"), 6}}},
-    };
-    for (const auto& [what, list, steps] : rows) {
-        int32_t position = 0;
-        for (const Step& step : steps) {
-            WideBuffer<8> word{W("#######")};
-            EXPECT_EQ(zu_Str_nextCDLWord(word, list, &position), static_cast<zu_wchar*>(word));
-            EXPECT_EQ(word.str(), step.word) << what;
-            EXPECT_EQ(position, step.position) << what;
-        }
-    }
+    readWords(zu_Str_nextSDLWord, W("  ab c"), {{W("ab"), 4}, {W("c"), 6}, {W(""), 6}});
+    readWords(zu_Str_nextSDLWord, W("a\tb  "), {{W("a\tb"), 3}, {W(""), 5}, {W(""), 5}});
+    readWords(zu_Str_nextCDLWord, W("a;;b"), {{W("a"), 1}, {W(""), 2}, {W("b"), 4}, {W(""), 4}, {W(""), 4}});
+    readWords(zu_Str_nextCDLWord, W(";a"), {{W("a"), 2}, {W(""), 2}}); // a leading empty one is lost
+    readWords(zu_Str_nextCDLWord, W(" a ; b"), {{W(" a "), 3}, {W(" b"), 6}});
 }
 
 TEST(Str, aPositionOutsideTheListStays)
 {
-    for (int32_t outside : {3, 1000, -1, INT32_MIN}) {
-        for (WideLiteral list : {W("ab"), WideLiteral{nullptr}}) {
+    for (const int32_t outside : {3, -1, INT32_MIN}) {
+        for (const WideLiteral list : {W("ab"), WideLiteral{nullptr}}) {
             WideBuffer<4> word{W("###")};
             int32_t position = outside;
             zu_Str_nextSDLWord(word, list, &position);
-            EXPECT_EQ(word.str(), W(""));
-            word = W("###");
             zu_Str_nextCDLWord(word, list, &position);
             EXPECT_EQ(word.str(), W(""));
             EXPECT_EQ(position, outside);
@@ -67,44 +50,25 @@ TEST(Str, aPositionOutsideTheListStays)
     WideBuffer<4> word{W("###")};
     zu_Str_nextCDLWord(word, W("ab"), nullptr);
     EXPECT_EQ(word.str(), W(""));
-    int32_t position = 0;
-    EXPECT_EQ(zu_Str_nextCDLWord(nullptr, W("ab"), &position), nullptr);
-    zu_Str_nextSDLWord(nullptr, W("ab"), &position);
-    EXPECT_EQ(position, 0);
 }
 
 TEST(Str, tokens)
 {
-    const struct
-    {
-        WideLiteral text, delimiters;
-        int32_t index;
-        WideLiteral fromLeft;
-        int32_t leftPosition;
-        WideLiteral fromRight;
-        int32_t rightPosition;
-    } rows[] = {
-        {W("a,,b"), W(","), 1, W("b"), 3, W("a"), 0},
-        {W("ab,c,def"), W(","), 0, W("ab"), 0, W("def"), 5},
-        {W(",;ab;,"), W(",;"), 0, W("ab"), 2, W("ab"), 2},
-        {W("ab"), W(","), 1, W("<null>"), -1, W("<null>"), -1},
-        {W("ab"), W(","), -1, W("<null>"), -1, W("<null>"), -1},
-        {nullptr, W(","), 0, W("<null>"), -1, W("<null>"), -1},
-        {W("a,b"), nullptr, 0, W("<null>"), -1, W("a,b"), 0}, // only the left form refuses null delimiters
-    };
-    for (const auto& row : rows) {
-        int32_t position = 99;
-        EXPECT_EQ(str(zu_Str_getNthToken(row.text, row.delimiters, row.index, &position)), row.fromLeft);
-        EXPECT_EQ(position, row.leftPosition) << PrintToString(str(row.text));
-        EXPECT_EQ(str(zu_Str_getRightNthToken(row.text, row.delimiters, row.index, &position)), row.fromRight);
-        EXPECT_EQ(position, row.rightPosition) << PrintToString(str(row.text));
-    }
+    int32_t position = 99;
+    EXPECT_EQ(str(zu_Str_getNthToken(W(",;ab,,c"), W(",;"), 1, &position)), W("c"));
+    EXPECT_EQ(position, 6);
+    EXPECT_EQ(str(zu_Str_getRightNthToken(W(",;ab,,c"), W(",;"), 1, &position)), W("ab"));
+    EXPECT_EQ(position, 2);
+    EXPECT_EQ(zu_Str_getNthToken(W("ab"), W(","), -1, &position), nullptr);
+    EXPECT_EQ(position, -1);
+    EXPECT_TRUE(allNull(
+        {zu_Str_getRightNthToken(W("ab"), W(","), -1, nullptr), zu_Str_getRightNthToken(nullptr, W(","), 0, nullptr),
+         zu_Str_getNthToken(nullptr, W(","), 0, nullptr), zu_Str_getNthToken(W("a,b"), nullptr, 0, nullptr)}));
+    EXPECT_EQ(str(zu_Str_getRightNthToken(W("a,b"), nullptr, 0, nullptr)), W("a,b")) << "only the left form refuses";
     const Wide longest(512, W('x'));
     EXPECT_EQ(str(zu_Str_getNthToken(longest.c_str(), W(","), 0, nullptr)), longest);
-    EXPECT_EQ(str(zu_Str_getRightNthToken(longest.c_str(), W(","), 0, nullptr)), longest);
     const Wide tooLong = W("a,") + longest;
     EXPECT_EQ(zu_Str_getNthToken(tooLong.c_str(), W(","), 0, nullptr), nullptr);
-    EXPECT_EQ(zu_Str_getRightNthToken(tooLong.c_str(), W(","), 1, nullptr), nullptr);
     // The result of the call before may be taken apart further, and may be the delimiters.
     const zu_wchar* const commas = zu_Str_getNthToken(W(",;x"), W(";x"), 0, nullptr);
     EXPECT_EQ(str(zu_Str_getNthToken(W("a,b"), commas, 1, nullptr)), W("b"));
@@ -139,18 +103,15 @@ TEST(Str, tokensFromTheRightAreThoseFromTheLeft)
 TEST(Str, replaceChar)
 {
     const std::tuple<WideLiteral, WideLiteral, WideLiteral, WideLiteral> rows[] = {
-        {W("a-b-c"), W("-"), W("+"), W("a+b+c")}, {W("aaaaa"), W("aa"), W("b"), W("bba")},
-        {W("ab"), W("ab"), W(""), W("")},         {W("ab"), W("b"), nullptr, W("a")},
-        {W("ab"), W(""), W("x"), W("ab")},        {W("ab"), nullptr, W("x"), W("ab")},
-        {W("a"), W("a"), W("aa"), W("aa")},       {nullptr, W("a"), W("b"), W("")},
+        {W("aaaaa"), W("aa"), W("b"), W("bba")}, {W("ab"), W("b"), nullptr, W("a")},
+        {W("ab"), nullptr, W("x"), W("ab")},     {W("a"), W("a"), W("aa"), W("aa")},
+        {nullptr, W("a"), W("b"), W("")},
     };
     for (const auto& [text, find, replacement, result] : rows)
         EXPECT_EQ(str(zu_Str_replaceChar(text, find, replacement)), result) << PrintToString(str(text));
     EXPECT_EQ(str(zu_Str_replaceChar(zu_Str_replaceChar(W("a.b"), W("."), W("--")), W("-"), W("+"))), W("a++b"));
     const Wide dots(400, W('.'));
     EXPECT_EQ(str(zu_Str_replaceChar(dots.c_str(), W("."), W("abc"))).size(), 511u);
-    const Wide longText(600, W('x'));
-    EXPECT_EQ(str(zu_Str_replaceChar(longText.c_str(), W("."), W("-"))), longText.substr(0, 511));
 }
 
 TEST(Str, locateKeyword)
@@ -158,10 +119,9 @@ TEST(Str, locateKeyword)
     EXPECT_EQ(str(zu_Str_locateKeyword(W("x %a% y"), W("%"))), W("a"));
     EXPECT_EQ(str(zu_Str_locateKeyword(W("#K#one#K#two#K#"), W("#K#"))), W("one"));
     EXPECT_EQ(str(zu_Str_locateKeyword(W("aaaa"), W("aa"))), W("")) << "the second is looked for behind the first";
-    for (WideLiteral text : {W("aaa"), W("xaay"), W("AAAA"), W(""), WideLiteral{nullptr}})
+    for (WideLiteral text : {W("aaa"), W("AAAA"), WideLiteral{nullptr}})
         EXPECT_EQ(zu_Str_locateKeyword(text, W("aa")), nullptr) << PrintToString(str(text));
-    EXPECT_EQ(zu_Str_locateKeyword(W("abc"), W("")), nullptr);
-    EXPECT_EQ(zu_Str_locateKeyword(W("abc"), nullptr), nullptr);
+    EXPECT_TRUE(allNull({zu_Str_locateKeyword(W("abc"), W("")), zu_Str_locateKeyword(W("abc"), nullptr)}));
     const Wide longValue(300, W('v'));
     EXPECT_EQ(str(zu_Str_locateKeyword((W("|") + longValue + W("|")).c_str(), W("|"))), longValue.substr(0, 256));
 }
@@ -171,7 +131,6 @@ TEST(Str, replaceKeyword)
     const std::tuple<WideLiteral, int32_t, WideLiteral> rows[] = {
         {W("size %DN%, %DN%"), 31, W("size 150, %DN%")},
         {W("%dn% %DN"), 31, W("%dn% %DN")},
-        {W("%DN%"), 2, W("15")},
         {W("%DN% and more"), 7, W("150 and")},
         {W("%DN%"), -1, W("")},
     };
@@ -182,10 +141,10 @@ TEST(Str, replaceKeyword)
     }
 
     WideBuffer<32> text{W("a <<n>> z")};
-    EXPECT_EQ(zu_Str_replaceKeyword(nullptr, W("n"), W("%"), W("v"), 9), nullptr);
-    EXPECT_EQ(zu_Str_replaceKeyword(text, nullptr, W("%"), W("v"), 9), nullptr);
-    EXPECT_EQ(zu_Str_replaceKeyword(text, W("n"), nullptr, W("v"), 9), nullptr);
-    EXPECT_EQ(zu_Str_replaceKeyword(text, W("n"), W("%"), nullptr, 2), nullptr);
+    EXPECT_TRUE(allNull({zu_Str_replaceKeyword(nullptr, W("n"), W("%"), W("v"), 9),
+                         zu_Str_replaceKeyword(text, nullptr, W("%"), W("v"), 9),
+                         zu_Str_replaceKeyword(text, W("n"), nullptr, W("v"), 9),
+                         zu_Str_replaceKeyword(text, W("n"), W("%"), nullptr, 2)}));
     EXPECT_EQ(text.str(), W("a <<n>> z"));
 
     zu_wchar* made = nullptr;
@@ -198,34 +157,21 @@ TEST(Str, replaceKeyword)
         [&] { EXPECT_EQ(made, nullptr); });
     EXPECT_EQ(str(made), expected);
     zu_Free(made);
-    EXPECT_EQ(zu_Str_replaceKeywordDynamic(longText.c_str(), W("n"), W("|"), nullptr), nullptr);
-
-    WideBuffer<120> inPlace{longText};
-    zu_wchar* result = nullptr;
-    sweepAllocations([&] { result = zu_Str_replaceKeyword(inPlace, name.c_str(), W("||"), value.c_str(), 119); },
-                     [&] {
-                         EXPECT_EQ(result, nullptr);
-                         EXPECT_EQ(inPlace.str(), longText);
-                     });
-    EXPECT_EQ(inPlace.str(), expected);
 }
 
 TEST(Str, wrapText)
 {
     const std::tuple<WideLiteral, uint32_t, std::vector<Wide>> rows[] = {
         {W("aaa bbb ccc"), 5, {W("aaa"), W("bbb"), W(" ccc")}}, // dropped only while more than a line is left
-        {W("aaa bbb"), 3, {W("aaa"), W("bbb")}},
-        {W("a b ccc"), 3, {W("a b"), W("ccc")}},
-        {W("abcdefg"), 3, {W("abc"), W("def"), W("g")}},
         {W("    "), 2, {W("  ")}},
-        {W("ab"), 0, {W("ab")}},
         {W(""), 0, {W("")}},
     };
     for (const auto& [text, width, lines] : rows)
         EXPECT_EQ(takeStrings(zu_Str_wrapText(text, width)), lines) << PrintToString(str(text)) << width;
     EXPECT_EQ(zu_Str_wrapText(nullptr, 5), nullptr);
-
-    sweepMaking([&] { return zu_Str_wrapText(W("aaa bbb ccc"), 5); }, zu_StrList_destroy);
+    EXPECT_EQ(zu_Str_findClosestWordBoundary(W("aaa bbb"), 4), 1);
+    EXPECT_EQ(zu_Str_findClosestWordBoundary(W(" abc"), 4), 4);
+    EXPECT_EQ(zu_Str_findClosestWordBoundary(nullptr, 3), 0);
 }
 
 TEST(Str, wrappingLosesNothingButSpaces)
@@ -244,16 +190,6 @@ TEST(Str, wrappingLosesNothingButSpaces)
         }
         ASSERT_EQ(str(zu_Str_strip(joined.data())), str(zu_Str_strip(text.data())));
     }
-}
-
-TEST(Str, findClosestWordBoundary)
-{
-    const std::tuple<WideLiteral, uint32_t, int32_t> rows[] = {
-        {W("aaa bbb"), 5, 2}, {W("aaa bbb"), 4, 1}, {W("aaa bbb"), 3, 0}, {W("a b c"), 5, 2}, {W("a b"), 900, 2},
-        {W(" abc"), 4, 4},    {W("abc"), 0, 0},     {W(""), 3, 0},        {nullptr, 3, 0},
-    };
-    for (const auto& [text, width, count] : rows)
-        EXPECT_EQ(zu_Str_findClosestWordBoundary(text, width), count) << PrintToString(str(text)) << width;
 }
 
 } // namespace

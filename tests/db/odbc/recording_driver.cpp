@@ -11,8 +11,6 @@
 //
 // Two things are bent so that tests can run anywhere: paths with drive letters, as Windows programs pass them under
 // Wine, become the system's own, and [directory]\table.dbf in a statement becomes the table.
-//
-// With ZU_WIDE_DRIVER it is a driver with wide calls, for which the driver manager converts the texts of narrow ones.
 #include <sql.h>
 #include <sqlext.h>
 #include <sqlucode.h>
@@ -94,43 +92,6 @@ std::string text(const SQLCHAR* bytes, SQLINTEGER length)
     return length == SQL_NTS ? std::string(characters) : std::string(characters, static_cast<std::size_t>(length));
 }
 
-#if ZU_WIDE_DRIVER
-// Characters of 16 bits, which are all that the driver manager converts.
-std::string text(const SQLWCHAR* units, SQLINTEGER length)
-{
-    std::string bytes;
-    for (SQLINTEGER index = 0; units != nullptr && (length == SQL_NTS ? units[index] != 0 : index < length); ++index) {
-        const unsigned unit = units[index];
-        if (unit < 0x80) {
-            bytes += static_cast<char>(unit);
-        } else if (unit < 0x800) {
-            bytes += static_cast<char>(0xC0 | unit >> 6);
-            bytes += static_cast<char>(0x80 | (unit & 0x3F));
-        } else {
-            bytes += static_cast<char>(0xE0 | unit >> 12);
-            bytes += static_cast<char>(0x80 | (unit >> 6 & 0x3F));
-            bytes += static_cast<char>(0x80 | (unit & 0x3F));
-        }
-    }
-    return bytes;
-}
-
-SQLSMALLINT widen(const SQLCHAR* bytes, SQLWCHAR* units, SQLSMALLINT room)
-{
-    SQLSMALLINT length = 0;
-    while (*bytes != 0 && length + 1 < room) {
-        const int following = *bytes < 0x80 ? 0 : *bytes < 0xE0 ? 1 : 2;
-        unsigned unit = following == 0 ? *bytes : *bytes & (0x3Fu >> following);
-        ++bytes;
-        for (int index = 0; index < following && *bytes != 0; ++index)
-            unit = unit << 6 | (*bytes++ & 0x3Fu);
-        units[length++] = static_cast<SQLWCHAR>(unit);
-    }
-    units[length] = 0;
-    return length;
-}
-#endif
-
 SQLCHAR* bytesOf(std::string& text)
 {
     return reinterpret_cast<SQLCHAR*>(text.data());
@@ -164,29 +125,6 @@ std::string withoutDirectory(std::string sql)
     sql.erase(extension, 4);
     const std::size_t start = sql.rfind('[', name);
     return sql.erase(start, name + 2 - start);
-}
-
-SQLRETURN connectSource(SQLHDBC connection, std::string source, const std::string& user, SQLSMALLINT userLength,
-                        std::string password, SQLSMALLINT passwordLength)
-{
-    const std::string argument =
-        source + "|" + user + "|" + std::to_string(userLength) + "|" + password + "|" + std::to_string(passwordLength);
-    std::string name = user;
-    return pass(SQLConnect, "SQLConnect", "SQLConnect", argument, connection, bytesOf(source), SQLSMALLINT{SQL_NTS},
-                bytesOf(name), userLength, bytesOf(password), passwordLength);
-}
-
-SQLRETURN executeText(SQLHSTMT statement, const std::string& sql)
-{
-    std::string passed = withoutDirectory(sql);
-    return pass(SQLExecDirect, "SQLExecDirect", "SQLExecDirect", sql, statement, bytesOf(passed), SQLINTEGER{SQL_NTS});
-}
-
-SQLRETURN describeColumn(SQLHSTMT statement, SQLUSMALLINT number, SQLCHAR* name, SQLSMALLINT room, SQLSMALLINT* length,
-                         SQLSMALLINT* type, SQLULEN* size, SQLSMALLINT* decimals, SQLSMALLINT* nullable)
-{
-    return pass(SQLDescribeCol, "SQLDescribeCol", "SQLDescribeCol", std::to_string(number), statement, number, name,
-                room, length, type, size, decimals, nullable);
 }
 
 } // namespace
@@ -243,75 +181,26 @@ SQLRETURN SQL_API SQLFetch(SQLHSTMT statement)
     return pass(SQLFetch, "SQLFetch", "SQLFetch", "", statement);
 }
 
-#if ZU_WIDE_DRIVER
-
-// The driver manager must not find the narrow calls here, so nothing is left to the SQLite driver.
-SQLRETURN SQL_API SQLFreeStmt(SQLHSTMT statement, SQLUSMALLINT option)
-{
-    return pass(SQLFreeStmt, "SQLFreeStmt", "SQLFreeStmt", "", statement, option);
-}
-
-SQLRETURN SQL_API SQLSetEnvAttr(SQLHENV environment, SQLINTEGER attribute, SQLPOINTER value, SQLINTEGER length)
-{
-    return pass(SQLSetEnvAttr, "SQLSetEnvAttr", "SQLSetEnvAttr", "", environment, attribute, value, length);
-}
-
-SQLRETURN SQL_API SQLConnectW(SQLHDBC connection, SQLWCHAR* source, SQLSMALLINT sourceLength, SQLWCHAR* user,
-                              SQLSMALLINT userLength, SQLWCHAR* password, SQLSMALLINT passwordLength)
-{
-    return connectSource(connection, text(source, sourceLength), text(user, SQL_NTS), userLength,
-                         text(password, SQL_NTS), passwordLength);
-}
-
-SQLRETURN SQL_API SQLExecDirectW(SQLHSTMT statement, SQLWCHAR* sql, SQLINTEGER length)
-{
-    return executeText(statement, text(sql, length));
-}
-
-SQLRETURN SQL_API SQLDescribeColW(SQLHSTMT statement, SQLUSMALLINT number, SQLWCHAR* name, SQLSMALLINT room,
-                                  SQLSMALLINT* length, SQLSMALLINT* type, SQLULEN* size, SQLSMALLINT* decimals,
-                                  SQLSMALLINT* nullable)
-{
-    SQLCHAR bytes[1024] = {};
-    const SQLRETURN result =
-        describeColumn(statement, number, bytes, sizeof bytes, length, type, size, decimals, nullable);
-    *length = widen(bytes, name, room);
-    return result;
-}
-
-SQLRETURN SQL_API SQLGetDiagRecW(SQLSMALLINT kind, SQLHANDLE handle, SQLSMALLINT number, SQLWCHAR* state,
-                                 SQLINTEGER* native, SQLWCHAR* message, SQLSMALLINT room, SQLSMALLINT* length)
-{
-    SQLCHAR stateBytes[6] = {};
-    SQLCHAR bytes[1024] = {};
-    const SQLRETURN result = pass(SQLGetDiagRec, "SQLGetDiagRec", "SQLGetDiagRec", "", kind, handle, number, stateBytes,
-                                  native, bytes, SQLSMALLINT{sizeof bytes}, length);
-    widen(stateBytes, state, 6);
-    *length = widen(bytes, message, room);
-    return result;
-}
-
-#else
-
 SQLRETURN SQL_API SQLConnect(SQLHDBC connection, SQLCHAR* source, SQLSMALLINT sourceLength, SQLCHAR* user,
                              SQLSMALLINT userLength, SQLCHAR* password, SQLSMALLINT passwordLength)
 {
-    return connectSource(connection, text(source, sourceLength), text(user, SQL_NTS), userLength,
-                         text(password, SQL_NTS), passwordLength);
+    return pass(SQLConnect, "SQLConnect", "SQLConnect", text(source, sourceLength), connection, source, sourceLength,
+                user, userLength, password, passwordLength);
 }
 
 SQLRETURN SQL_API SQLExecDirect(SQLHSTMT statement, SQLCHAR* sql, SQLINTEGER length)
 {
-    return executeText(statement, text(sql, length));
+    std::string passed = withoutDirectory(text(sql, length));
+    return pass(SQLExecDirect, "SQLExecDirect", "SQLExecDirect", text(sql, length), statement, bytesOf(passed),
+                SQLINTEGER{SQL_NTS});
 }
 
 SQLRETURN SQL_API SQLDescribeCol(SQLHSTMT statement, SQLUSMALLINT number, SQLCHAR* name, SQLSMALLINT room,
                                  SQLSMALLINT* length, SQLSMALLINT* type, SQLULEN* size, SQLSMALLINT* decimals,
                                  SQLSMALLINT* nullable)
 {
-    return describeColumn(statement, number, name, room, length, type, size, decimals, nullable);
+    return pass(SQLDescribeCol, "SQLDescribeCol", "SQLDescribeCol", std::to_string(number), statement, number, name,
+                room, length, type, size, decimals, nullable);
 }
-
-#endif
 
 } // extern "C"
