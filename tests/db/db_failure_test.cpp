@@ -3,7 +3,10 @@
 #include "support/memory.h"
 #include "zu_Memory.h"
 
+#include <gtest/gtest-spi.h>
+
 #include <cstdlib>
+#include <iostream>
 
 namespace {
 
@@ -79,19 +82,25 @@ const struct
     {"top, no statement", On::top, allocation, 1, odbcError, 1, "", false},
     {"top, select", On::top, "SQLExecDirect", 1, odbcError, 1, queryFailed, false},
     {"top, select with information", On::top, "SQLExecDirect", 1, odbcInformation, 0, "", true},
+    {"top, columns", On::top, "SQLNumResultCols", 1, odbcError, 1, "", false},
     {"top, description: what was bound is read", On::top, "SQLDescribeCol", 2, odbcError, 0, "", true},
     {"top, binding", On::top, "SQLBindCol", 2, odbcError, 1, "", false},
     {"top, row", On::top, "SQLFetch", 1, odbcError, 1, "", false},
     {"top, row with information", On::top, "SQLFetch", 1, odbcInformation, 1, "", false},
     {"next, row", On::next, "SQLFetch", 1, odbcError, 3, "", false},
-    {"bottom, row with information", On::bottom, "SQLFetch", 1, odbcInformation, 0, "", true},
     {"previous, select", On::previous, "SQLExecDirect", 1, odbcError, 3, queryFailed, false},
+    {"structure, select", On::structure, "SQLExecDirect", 1, odbcError, -1, "", false},
     {"structure, columns", On::structure, "SQLNumResultCols", 1, odbcError, -1, "", false},
     {"structure, description", On::structure, "SQLDescribeCol", 2, odbcError, -1, "", false},
+    {"structure, binding", On::structure, "SQLBindCol", 1, odbcError, -1, "", false},
     {"blank row, select", On::blank, "SQLExecDirect", 1, odbcError, -1, "", false},
     {"count, no statement", On::count, allocation, 1, odbcError, 0, "", true},
+    {"count, select", On::count, "SQLExecDirect", 1, odbcError, 0, "", true},
+    {"count, binding", On::count, "SQLBindCol", 1, odbcError, 0, "", true},
     {"count, row", On::count, "SQLFetch", 1, odbcError, 0, "", true},
+    {"read, select", On::read, "SQLExecDirect", 1, odbcError, -1, queryFailed, false},
     {"field, select", On::field, "SQLExecDirect", 1, odbcError, 0, queryFailed, false},
+    {"seek, way round", On::seek, "SQLExecDirect", 1, odbcError, 1, queryFailed, false},
     {"seek, first row of the way round", On::seek, "SQLFetch", 3, odbcError, 1, "", false},
     {"insert", On::insert, "SQLExecDirect", 1, odbcError, 1, queryFailed, false},
     {"update, no statement", On::update, allocation, 1, odbcError, 1, "", true},
@@ -132,8 +141,28 @@ TEST_F(DbFailure, everyCallMayFail)
     zu_DbFldList_destroy(values);
 }
 
+TEST_F(DbFailure, aPartlyDescribedTableHasTheColumnsUpToThere)
+{
+    const Table table(sandbox.path(W("t")));
+    driver.plan({{"SQLDescribeCol", 2, odbcError}});
+    EXPECT_EQ(zu_Db_topRec(table, 0), ZU_DB_DONE);
+    EXPECT_EQ(str(zu_Db_getFldStr(table, W("A"))), W("a"));
+    EXPECT_EQ(zu_Db_getFldStr(table, W("L")), nullptr);
+    EXPECT_EQ(zu_DbFldList_length(zu_DbRef_sel(table)->fields), 1u);
+}
+
+TEST_F(DbFailure, aRowWithInformationEndsTheWayToTheLastOne)
+{
+    const Table table(sandbox.path(W("t")));
+    zu_Db_topRec(table, 0);
+    driver.plan({{"SQLFetch", 2, odbcInformation}});
+    EXPECT_EQ(zu_Db_botRec(table, 0), ZU_DB_DONE);
+    EXPECT_EQ(zu_DbRef_sel(table)->recordNumber, 1);
+}
+
 TEST_F(DbFailure, connections)
 {
+    // 0 here means any
     const std::tuple<const char*, const char*, int, int32_t> rows[] = {
         {"refused", "SQLDriverConnect", odbcError, -1},
         {"the driver has no connection", "SQLAllocHandle:DBC", odbcError, -1},
@@ -171,27 +200,43 @@ TEST_F(DbFailure, withoutMemory)
 
     const Table table(path);
     DbFldList* const values = zu_DbFldList_create(W("A"), W("x"), none);
-    const std::tuple<const char*, Operation, int32_t> rows[] = {
-        {"top", On::top, ZU_DB_FAILED},
-        {"read", On::read, -1},
-        {"insert", On::insert, ZU_DB_FAILED},
+    const struct
+    {
+        const char* what;
+        Operation operation;
+        int32_t failure;
+    } rows[] = {
+        {"top", On::top, ZU_DB_FAILED}, {"blank", On::blank, -1}, {"count", On::count, 0},
+        {"read", On::read, -1},         {"field", On::field, 0},  {"insert", On::insert, ZU_DB_FAILED},
     };
-    for (const auto& [what, operation, failure] : rows) {
-        SCOPED_TRACE(what);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.what);
         int32_t result = 0;
         zu_Db_appRec(table);
         sweepAllocations(
-            [&, run = operation] {
-                result = run(table, values);
+            [&] {
+                result = row.operation(table, values);
                 zu_Db_appRec(table); // drops the current row
             },
-            [&, expected = failure] { EXPECT_EQ(result, expected); });
+            [&] { EXPECT_EQ(result, row.failure); });
+        EXPECT_NE(result, row.failure);
     }
     EXPECT_EQ(querySql(file, "SELECT * FROM t"), (Texts{"a|1", "b|2", "c|3", "x|<null>"})) << "inserted once, no more";
 
+    // Rows that are written twice without a result set, where the current row has to be made anew.
     int32_t result = 0;
     zu_DbFldList_modFldVal(values, W("A"), W("y"));
+    sweepAllocations(
+        [&] {
+            zu_Db_appRec(table);
+            if ((result = zu_Db_modRec(table, values)) == ZU_DB_DONE) {
+                zu_Db_modRec(table, values);
+                zu_Db_appRec(table);
+            }
+        },
+        [] {});
     zu_Db_topRec(table, 0);
+    EXPECT_EQ(zu_Db_seekStr(W("a"), table, 0), ZU_DB_FAILED) << "still in append mode";
     zu_DbRef_sel(table)->mode = ZU_DB_READ;
     sweepAllocations([&] { result = zu_Db_modRec(table, values); },
                      [&] {
@@ -203,6 +248,19 @@ TEST_F(DbFailure, withoutMemory)
 }
 
 #if !defined(_WIN32)
+// Ends the process of a death test; what went wrong in it is told on standard error, because gtest is silent there.
+[[noreturn]] void runAndExit(const std::function<void()>& body)
+{
+    testing::TestPartResultArray failures;
+    {
+        const testing::ScopedFakeTestPartResultReporter reporter(&failures);
+        body();
+    }
+    for (int index = 0; index < failures.size(); ++index)
+        std::cerr << failures.GetTestPartResult(index);
+    std::exit(failures.size() == 0 ? 0 : 1);
+}
+
 class DbStart : public testing::Test
 {
 public:
@@ -215,12 +273,7 @@ public:
     // Runs body in a process of its own, which has not used the driver manager yet.
     void inFreshProcess(const std::function<void()>& body)
     {
-        EXPECT_EXIT(
-            {
-                body();
-                std::exit(HasFailure() ? 1 : 0);
-            },
-            testing::ExitedWithCode(0), "");
+        EXPECT_EXIT(runAndExit(body), testing::ExitedWithCode(0), "");
     }
     std::string opening(WideView name, int32_t expected)
     {
@@ -244,9 +297,25 @@ TEST_F(DbStart, withoutAnEnvironment)
             EXPECT_EQ(opening(W("t.dbf"), 1), "Error allocating env handle\nAllocHandle on DBC failed\n");
         }
         EXPECT_EQ(printedBy([] { EXPECT_EQ(zu_Db_topRec(0, 0), ZU_DB_FAILED); }), "");
+        EXPECT_EQ(zu_Db_getRecordCount(1), 0);
+        EXPECT_EQ(zu_Db_struct(1), nullptr);
         EXPECT_EQ(opening(W("t.db3"), 2), "") << "the environment is tried again";
         EXPECT_EQ(opening(W("t.dbf"), 3), "") << "the shared connection is not";
         EXPECT_EQ(zu_DbRef_sel(3)->connection, nullptr);
+    });
+}
+
+TEST_F(DbStart, withoutAConnection)
+{
+    inFreshProcess([&] {
+        {
+            const FailingAllocation failing(2);
+            EXPECT_EQ(opening(W("t.db3"), 0), "AllocHandle on DBC failed\n" + std::string(connectionFailed));
+            EXPECT_EQ(opening(W("t.dbf"), 1), "AllocHandle on DBC failed\n");
+        }
+        const FailingAllocation failing(3);
+        EXPECT_EQ(opening(W("t.db3"), 2), "");
+        EXPECT_EQ(printedBy([] { EXPECT_EQ(zu_Db_topRec(2, 0), ZU_DB_FAILED); }), "");
     });
 }
 
@@ -261,9 +330,20 @@ TEST_F(DbStart, theSharedConnectionIsTriedOnce)
         EXPECT_EQ(opening(W("t.dbf"), 1), "");
         EXPECT_EQ(driver.calls("SQLConnect").size(), 1u);
         EXPECT_EQ(zu_Db_topRec(1, 0), ZU_DB_FAILED);
+        EXPECT_EQ(zu_Db_getRecordCount(1), 0);
     });
 }
 
+TEST_F(DbStart, theDriverIsNotInstalled)
+{
+    inFreshProcess([&] {
+        sandbox.write(W("odbcinst.ini"), "[Some other driver]\nDriver=none.so\n");
+        sandbox.setEnvironment("ODBCSYSINI", sandbox.native().string());
+        EXPECT_EQ(opening(W("t.db3"), -1), connectionFailed);
+        EXPECT_EQ(opening(W("t.dbf"), 1), connectionFailed);
+        EXPECT_EQ(zu_Db_topRec(1, 0), ZU_DB_FAILED);
+    });
+}
 #endif
 
 } // namespace

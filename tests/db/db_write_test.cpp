@@ -30,6 +30,7 @@ TEST_F(DbWrite, insertsNameTheFieldsThatHaveAValue)
     const std::tuple<const char*, WideLiteral, const char*, int32_t> rows[] = {
         {"types", W("A:C=x;N:N=1.5;L:L=7"), "INSERT INTO t ([A], [N], [L]) VALUES ('x', 1.5, 7)", 0},
         {"empty and missing values", W("A:C=;N:N=2;L:L"), "INSERT INTO t ([N]) VALUES (2)", 0},
+        {"blanks in text", W("A:C=  y"), "INSERT INTO t ([A]) VALUES ('  y')", 0},
         {"text that is not of type C", W("M:M=memo"), "INSERT INTO t ([M]) VALUES (memo)", 1},
         {"a quote in a value", W("A:C=O'Brien"), "INSERT INTO t ([A]) VALUES ('O'Brien')", 1},
         {"no value", W("A:C="), "INSERT INTO t) VALUES)", 1},
@@ -46,7 +47,7 @@ TEST_F(DbWrite, insertsNameTheFieldsThatHaveAValue)
         EXPECT_EQ(driver.statements(), Texts{sql}) << what;
         EXPECT_EQ(mode(), expected == 0 ? ZU_DB_WRITTEN : ZU_DB_APPEND) << what;
     }
-    EXPECT_EQ(content(), (Texts{"<null>|2.0|<null>|<null>", "x|1.5|7|<null>"}));
+    EXPECT_EQ(content(), (Texts{"<null>|2.0|<null>|<null>", "  y|9.5|<null>|<null>", "x|1.5|7|<null>"}));
 }
 
 TEST_F(DbWrite, updatesSetWhatChangedWhereTheRestIsFound)
@@ -59,10 +60,14 @@ TEST_F(DbWrite, updatesSetWhatChangedWhereTheRestIsFound)
         int32_t result = 0;
         const char* stored = "'a', 1.5, 7, 'b'";
     } rows[] = {
+        {"names ignore case", W("a:C=x;l:L=8"), "UPDATE t SET [A]='x', [L]=8 WHERE [N]=1.5 AND [B]='b'"},
         {"unchanged ones stand in the condition", W("A:C=a;N:N=2.5;B:C=b"),
          "UPDATE t SET [N]=2.5 WHERE [A]='a' AND [L]=7 AND [B]='b'"},
         {"nothing changed", W("A:C=a;L:L=7"), nullptr},
+        {"unknown fields", W("X:C=x"), nullptr},
+        {"everything changed", W("A:C=x;N:N=2;L:L=8;B:C=y"), "UPDATE t SET [A]='x', [N]=2, [L]=8, [B]='y'"},
         {"empty numbers", W("A:C=;N:N=;L:L=;B:C"), "UPDATE t SET [A]='', [N]=0.0, [L]=0, [B]=''"},
+        {"empty float", W("N:F="), "UPDATE t SET [N]=0.0 WHERE [A]='a' AND [L]=7 AND [B]='b'"},
         {"empty values are in no condition", W("B:C=y;A:C="), "UPDATE t SET [B]='y' WHERE [L]=7", 0, "'', NULL, 7, ''"},
         {"the new field's type decides", W("A:N=12;N:C=1.5"),
          "UPDATE t SET [A]=12 WHERE [N]='1.5' AND [L]=7 AND [B]='b'"},
@@ -93,6 +98,8 @@ TEST_F(DbWrite, modes)
     List(zu_Db_readRec(t, 0));
     EXPECT_EQ(zu_Db_modRec(t, x.get()), ZU_DB_DONE);
     EXPECT_EQ(content(), (Texts{"b|2", "x|1"}));
+    EXPECT_EQ(zu_Db_appRec(99), ZU_DB_FAILED);
+    EXPECT_TRUE(allAre(ZU_DB_FAILED + 0, {zu_Db_modRec(t, nullptr), zu_Db_modRec(99, x.get())}));
     while (zu_Db_nextRec(t, 0) == ZU_DB_DONE) {
     }
     driver.forget();
@@ -101,6 +108,8 @@ TEST_F(DbWrite, modes)
 
     // Append, write, write again: insert, then update of what was inserted.
     EXPECT_EQ(zu_Db_appRec(t), ZU_DB_DONE);
+    EXPECT_EQ(zu_Db_eof(t), 1);
+    EXPECT_EQ(mode(), ZU_DB_APPEND);
     const List first = rowOf(W("A:C=n1;L:L=9"));
     const List second = rowOf(W("a:C=n2;X:C=unknown"));
     EXPECT_EQ(zu_Db_modRec(t, first.get()), ZU_DB_DONE);
@@ -112,6 +121,7 @@ TEST_F(DbWrite, modes)
                                           "UPDATE t SET [A]='n2' WHERE [L]=9", "UPDATE t SET [A]='n1' WHERE [L]=9"}));
     const List read(zu_Db_readRec(t, 0));
     EXPECT_EQ(str(zu_DbFldList_getFldVal(read.get(), W("A"))), W("x")) << "reading opens at the first row";
+    EXPECT_EQ(mode(), ZU_DB_READ);
 }
 
 TEST_F(DbWrite, blankRowsToFillIn)
@@ -120,13 +130,34 @@ TEST_F(DbWrite, blankRowsToFillIn)
     zu_Db_appRec(t);
     const List blank(zu_Db_readRec(t, 0));
     EXPECT_EQ(str(zu_DbFldList_getFldVal(blank.get(), W("A"))), W("     "));
+    EXPECT_EQ(mode(), ZU_DB_APPEND);
+    EXPECT_EQ(str(zu_Db_getFldStr(t, W("A"))), W("     "));
     EXPECT_EQ(zu_DbFldList_modFldVal(blank.get(), W("A"), W("new")), 1);
     EXPECT_EQ(zu_DbFldList_modFldVal(blank.get(), W("L"), W("5")), 1);
     EXPECT_EQ(zu_Db_modRec(t, blank.get()), ZU_DB_DONE);
     EXPECT_EQ(content(), (Texts{"a|1", "new|5"}));
+    EXPECT_EQ(str(zu_Db_getFldStr(t, W("A"))), W("new"));
     // The result set that the blank row was read from has not begun.
     EXPECT_EQ(zu_Db_nextRec(t, 0), ZU_DB_DONE);
     EXPECT_EQ(str(zu_Db_getFldStr(t, W("A"))), W("a"));
+}
+
+TEST_F(DbWrite, readModifyNext)
+{
+    Texts rows;
+    for (int number = 0; number < 20; ++number)
+        rows.push_back("'tag" + std::to_string(number) + "', " + std::to_string(number));
+    const Table& t = table("A VARCHAR(8), L INTEGER", rows);
+    int count = 0;
+    for (int32_t at = zu_Db_topRec(t, 0); at == ZU_DB_DONE; at = zu_Db_nextRec(t, 0), ++count) {
+        const List row(zu_Db_readRec(t, 0));
+        const Wide value = W("n") + str(zu_DbFldList_getFldVal(row.get(), W("L")));
+        zu_DbFldList_modFldVal(row.get(), W("A"), value.c_str());
+        EXPECT_EQ(zu_Db_modRec(t, row.get()), ZU_DB_DONE);
+        EXPECT_EQ(str(zu_Db_getFldStr(t, W("A"))), value) << "the current row has it too";
+    }
+    EXPECT_EQ(count, 20);
+    EXPECT_EQ(querySql(file, "SELECT count(*) FROM t WHERE A = 'n' || L"), Texts{"20"});
 }
 
 TEST_F(DbWrite, boundRowsAreCutToTheirWidth)
@@ -141,8 +172,22 @@ TEST_F(DbWrite, boundRowsAreCutToTheirWidth)
     EXPECT_EQ(zu_DbFldList_getNth(zu_DbRef_sel(t)->fields, 0)->value, buffer) << "the driver writes into it";
     EXPECT_EQ(str(zu_Db_getFldStr(t, W("A"))), W("1234"));
     EXPECT_EQ(zu_Db_nextRec(t, 0), ZU_DB_DONE);
+    EXPECT_EQ(str(zu_Db_getFldStr(t, W("A"))), W("b"));
     EXPECT_EQ(zu_Db_modRec(t, zu_DbRef_sel(t)->fields), ZU_DB_DONE) << "the current row itself";
     EXPECT_EQ(str(zu_Db_getFldStr(t, W("A"))), W("b"));
+}
+
+TEST_F(DbWrite, updatesTouchEveryRowThatIsAlike)
+{
+    const Table& t = table("A VARCHAR(4), L INTEGER", {"'a', 1", "'a', 1", "'a', 2"});
+    List(zu_Db_readRec(t, 0));
+    const List x = rowOf(W("A:C=x"));
+    EXPECT_EQ(zu_Db_modRec(t, x.get()), ZU_DB_DONE);
+    EXPECT_EQ(content(), (Texts{"a|2", "x|1", "x|1"}));
+    runSql(file, {"DELETE FROM t"});
+    const List y = rowOf(W("A:C=y"));
+    EXPECT_EQ(zu_Db_modRec(t, y.get()), ZU_DB_DONE) << "no row is met, which is no failure";
+    EXPECT_EQ(str(zu_Db_getFldStr(t, W("A"))), W("y"));
 }
 
 TEST_F(DbWrite, lettersOfEveryKindArrive)
@@ -155,13 +200,14 @@ TEST_F(DbWrite, lettersOfEveryKindArrive)
     zu_Db_appRec(t);
     const List row = rowOf(W("\u00d6:C=") + Wide(text) + W(";\u0416 2:L=4"));
     EXPECT_EQ(zu_Db_modRec(t, row.get()), ZU_DB_DONE);
+    EXPECT_EQ(str(zu_Db_getFldStr(t, W("\u00d6"))), text);
     EXPECT_EQ(zu_Db_topRec(t, 0), ZU_DB_DONE);
     EXPECT_EQ(str(zu_Db_getFldStr(t, W("\u00d6"))), text);
     EXPECT_EQ(str(zu_Db_getFldStr(t, W("\u0416 2"))), W("4"));
     EXPECT_EQ(zu_Db_seekStr(text, t, 0), ZU_DB_DONE);
 }
 
-TEST_F(DbWrite, lockedDatabases)
+TEST_F(DbWrite, lockedAndDeletedDatabases)
 {
     const Table& t = table("A VARCHAR(4)", {"'a'"});
     List(zu_Db_readRec(t, 0));
@@ -177,6 +223,13 @@ TEST_F(DbWrite, lockedDatabases)
     }
     EXPECT_EQ(zu_Db_modRec(t, x.get()), ZU_DB_DONE);
     EXPECT_EQ(content(), (Texts{"a", "x"}));
+    std::error_code error;
+    if (std::filesystem::remove(file, error)) {
+        // The open connection goes on with what it has; writing is refused or goes nowhere, and nothing breaks.
+        zu_Db_modRec(t, x.get());
+        printedBy([&] { zu_Db_topRec(t, 0); });
+        EXPECT_FALSE(sandbox.exists(W("t.db3")));
+    }
 }
 
 } // namespace
