@@ -4,6 +4,7 @@
 #include "frame/guard.h"
 #include "frame/text.h"
 #include "platform/binary_file.h"
+#include "platform/directories.h"
 #include "platform/files.h"
 
 #include <limits>
@@ -71,7 +72,7 @@ int32_t zu_File_move(const zu_wchar* source, const zu_wchar* destination)
         return -1;
     const int32_t result = guarded(-1, [&] {
         // No system puts a directory in the place of a file in one step.
-        if (platform::isDirectory(source))
+        if (platform::isDirectory(source) && !platform::isLink(source))
             platform::removeFile(destination);
         if (platform::replaceFile(source, destination))
             return 0;

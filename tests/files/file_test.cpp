@@ -61,6 +61,10 @@ TEST(File, moveReplacesTheDestination)
     std::filesystem::create_directory(sandbox.native(W("f")));
     EXPECT_EQ(move(W("f"), W("d")), 0) << "a directory takes the place of a file";
     EXPECT_EQ(entriesOf(sandbox), (std::vector<std::string>{"d/"}));
+    if (!onWindows && makeLink(sandbox.native(W("d")), sandbox.native(W("link")))) {
+        EXPECT_EQ(move(W("link"), W("link")), 0) << "a link to a directory onto itself";
+        EXPECT_TRUE(sandbox.exists(W("link")));
+    }
 }
 
 #if !defined(_WIN32)
