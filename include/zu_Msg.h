@@ -97,9 +97,11 @@ ZU_API int32_t zu_Msg_setFormat(int32_t number);
  *  @return the text; null for null. Texts are cut at 512 units. */
 ZU_API zu_wchar* zu_Msg_scanEsc(zu_wchar* text);
 
-/** Takes the first two words of a text, which blanks and underscores separate.
- *  @param first, second  must have room for the text; each is written only when there is such a word. May be null.
- *  @return 1 when there are two words, else 0. */
+/** Takes the first two words of a text, which blanks and underscores separate; other white space around them
+ *  is removed.
+ *  @param first, second  must have room for the text; each is written only when there is such a word, the second only
+ *                        when the first has something left. May be null.
+ *  @return 1 when there are two words and the second has something left, else 0. */
 ZU_API int32_t zu_Msg_breakStr(const zu_wchar* text, zu_wchar* first, zu_wchar* second);
 
 /* Many texts ------------------------------------------------------------------------------------------------------- */

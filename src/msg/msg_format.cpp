@@ -105,9 +105,9 @@ int32_t zu_Msg_breakStr(const zu_wchar* text, zu_wchar* first, zu_wchar* second)
         zu_Str_delBlks(word.units);
     if (first != nullptr)
         text::copyCut(first, textSize, words[0].view());
-    if (words[0].view().empty() || words[1].view().empty())
+    if (words[0].view().empty() || two.empty())
         return 0;
     if (second != nullptr)
         text::copyCut(second, textSize, words[1].view());
-    return 1;
+    return words[1].view().empty() ? 0 : 1;
 }

@@ -74,10 +74,9 @@ TEST(Msg, paddingAndCaptions)
 TEST(Msg, theFirstTwoWords)
 {
     const std::tuple<WideLiteral, int32_t, WideLiteral, WideLiteral> rows[] = {
-        {W("one two three"), 1, W("one"), W("two")},
-        {W(" _ "), 0, W("-"), W("-")},
-        {W("A\t\tB_ C\t"), 1, W("A\t\tB"), W("C")},
-        {W("ABC \t"), 0, W("ABC"), W("-")},
+        {W("one two three"), 1, W("one"), W("two")}, {W(" _ "), 0, W("-"), W("-")},
+        {W("A\t\tB_ C\t"), 1, W("A\t\tB"), W("C")},  {W("\t ABC"), 0, W(""), W("-")},
+        {W("ABC \t"), 0, W("ABC"), W("")},
     };
     for (const auto& [text, result, rowFirst, rowSecond] : rows) {
         WideBuffer<32> first(W("-"));
