@@ -57,14 +57,15 @@ HookVector<WideString> memberLines(FldList* list)
     return lines;
 }
 
-// Writes the new content beside the file and moves it over the file.
-bool replaceThrough(const WideString& temporary, const zu_wchar* file, std::string_view content)
+// Writes the new content beside the file and moves it over the file; *isTried says whether it came to moving.
+bool replaceThrough(const WideString& temporary, const zu_wchar* file, std::string_view content, bool* isTried)
 {
     // What only some may read must not stand in the file beside it for others, not even for a moment.
     if (!platform::replaceContent(temporary, {}))
         return false;
     platform::copyPermissions(file, temporary);
-    if (platform::replaceContent(temporary, content) && platform::replaceFile(temporary, file))
+    *isTried = platform::replaceContent(temporary, content);
+    if (*isTried && platform::replaceFile(temporary, file))
         return true;
     platform::removeFile(temporary);
     return false;
@@ -111,6 +112,7 @@ int32_t zu_Ini_setGroupItems(const zu_wchar* file, const zu_wchar* group, FldLis
     if (file == nullptr || group == nullptr || list == nullptr)
         return 0;
     WideString temporary;
+    bool isMoveTried = false;
     const int32_t written = guarded(0, [&] {
         temporary = file;
         temporary.resize(static_cast<std::size_t>(zu_Fname_extractPath(file, temporary.data())));
@@ -123,11 +125,13 @@ int32_t zu_Ini_setGroupItems(const zu_wchar* file, const zu_wchar* group, FldLis
             return 0;
         const IniDocument document(platform::readContent(file).value_or(ByteString()));
         const std::optional<ByteString> changed = document.withGroupLines(group, memberLines(list));
-        return changed && replaceThrough(temporary, file, *changed) ? 1 : 0;
+        return changed && replaceThrough(temporary, file, *changed, &isMoveTried) ? 1 : 0;
     });
     // The host is told as zu_File_move tells it, but without the lock: it may write files of this directory itself.
-    zu_File_revalidate(temporary.c_str());
-    zu_File_revalidate(file);
+    if (isMoveTried) {
+        zu_File_revalidate(temporary.c_str());
+        zu_File_revalidate(file);
+    }
     return written;
 }
 

@@ -51,6 +51,9 @@ TEST(IniHost, aHostMayWriteFilesOfTheDirectoryWhenItIsToldOfOne)
     EXPECT_EQ(zu_Ini_setGroupItems(sandbox.path(W("f.ini")).c_str(), W("G"), list.get()), 1);
     EXPECT_EQ(sandbox.read(W("other.ini")).substr(0, 3), "[G]");
     EXPECT_EQ(sandbox.read(W("f.ini")), sandbox.read(W("other.ini")));
+    host.calls();
+    EXPECT_EQ(zu_Ini_setGroupItems(sandbox.path(W("no\\f.ini")).c_str(), W("G"), list.get()), 0);
+    EXPECT_TRUE(host.calls().empty()) << "nothing was moved";
 }
 
 TEST(IniHost, aFailingCallIsRaisedAndNothingLeaks)
