@@ -48,9 +48,9 @@ bool isLink(WideView path)
     WIN32_FIND_DATAW entry;
     if (!isUsable(path) || path.find_first_of(L"*?") != WideView::npos)
         return false;
-    // With a separator at its end the path would not be found.
+    // With a separator at its end the path would not be found; a drive alone is no root any more.
     WideString name(path);
-    while (name.size() > 1 && (name.back() == L'\\' || name.back() == L'/'))
+    while (name.size() > 1 && (name.back() == L'\\' || name.back() == L'/') && name[name.size() - 2] != L':')
         name.pop_back();
     const HANDLE search = ::FindFirstFileW(name.c_str(), &entry);
     if (search == INVALID_HANDLE_VALUE)
